@@ -1,0 +1,201 @@
+/*
+ * arrays.h: the whole public interface of libarrays, growable arrays of many element types
+ * behind one opaque handle. Compiles as C99 and as C++17; every function has C linkage.
+ *
+ * Conventions shared by every function:
+ * - Positions and counts are ULONG; a position that is not found is ARR_ULONG_MAX.
+ * - Each function checks its preconditions and reports every broken one through the report
+ *   handler (arr_set_manejador_informes) with the exact text of the condition, then carries on.
+ *   A NULL handle, a handle that is not a live array, a handle of another element type or a
+ *   position that does not exist ends the call there with a neutral result (0, 0.0, NULL,
+ *   FALSO, ARR_ULONG_MAX) and nothing changed.
+ * - Destroyers take the address of the handle and leave it NULL.
+ */
+#ifndef ARRAYS_H
+#define ARRAYS_H
+
+#ifdef __cplusplus
+#include <cstddef>
+#include <cstdint>
+#else
+#include <stddef.h>
+#include <stdint.h>
+#include <uchar.h>
+#endif
+
+#if defined(_WIN32)
+#if defined(ARRAYS_BUILDING)
+#define ARRAYS_API __declspec(dllexport)
+#else
+#define ARRAYS_API __declspec(dllimport)
+#endif
+#elif defined(__GNUC__)
+#define ARRAYS_API __attribute__((visibility("default")))
+#else
+#define ARRAYS_API
+#endif
+
+#ifdef __cplusplus
+#define ARR_NOEXCEPT noexcept
+extern "C" {
+#else
+#define ARR_NOEXCEPT
+#endif
+
+/* ---- Types: the same widths on every platform ---------------------------------------- */
+
+typedef uint16_t BOOL;
+typedef uint8_t BYTE;
+typedef unsigned char UCHAR;
+typedef int16_t SHORT;
+typedef uint16_t USHORT;
+typedef int32_t LONG;
+typedef uint32_t ULONG;
+typedef int64_t LONG64;
+typedef uint64_t ULONG64;
+typedef char16_t WCHAR; /* one UTF-16 code unit; wide strings are zero-terminated UTF-16 */
+
+#define FALSO ((BOOL)0)
+#define CIERTO ((BOOL)1)
+
+/* The position that means "not found" or "no such index". */
+#define ARR_ULONG_MAX 0xFFFFFFFFu
+
+/* An array. The header record stays private; callers hold ARRAY * handles. */
+typedef struct ARRAY ARRAY;
+
+/* Element type tags, as stored in every array header. */
+typedef enum tipo_elem_array {
+    elem_BIT_NO_USAR = 0,
+    elem_BYTE_NO_USAR = 1,
+    elem_BOOL_NO_USAR = 2,
+    elem_UCHAR_NO_USAR = 3,
+    elem_CHAR_NO_USAR = 4,
+    elem_USHORT_NO_USAR = 5,
+    elem_SHORT_NO_USAR = 6,
+    elem_ULONG_NO_USAR = 7,
+    elem_LONG_NO_USAR = 8,
+    elem_ULONG64_NO_USAR = 9,
+    elem_LONG64_NO_USAR = 10,
+    elem_DOUBLE_NO_USAR = 11,
+    elem_PUNTERO_NO_USAR = 12,
+    elem_CADENA_NO_USAR = 13,
+    elem_PUNTO2D_NO_USAR = 14,
+    elem_PUNTO2DX_NO_USAR = 15,
+    elem_PUNTO3D_NO_USAR = 16,
+    elem_antiguo_PUNTO3DX = 17, /* retired: no array has it, every check rejects it */
+    elem_CADENA_U_NO_USAR = 18
+} tipo_elem_array;
+
+/* Results of an ordering comparator. Consumers test for exactly these values. */
+typedef enum comparac {
+    comparac_PRIMERO_MENOR = -1,
+    comparac_IGUALES = 0,
+    comparac_PRIMERO_MAYOR = 1
+} comparac;
+
+/* ---- Reports --------------------------------------------------------------------------- */
+
+enum {
+    ARR_INFORME_ERROR = 0,   /* a condition was false */
+    ARR_INFORME_ORIGEN = 1,  /* a condition was false; also names the caller's location */
+    ARR_INFORME_DEFAULT = 2  /* a per-type switch met an element type it does not handle */
+};
+
+typedef struct arr_informe {
+    int clase;                    /* ARR_INFORME_ERROR, ARR_INFORME_ORIGEN, ARR_INFORME_DEFAULT */
+    const char *expresion;        /* UTF-8 text of the failed condition; "" for the default case */
+    const char *ubicacion;        /* reporting module, e.g. "arrayprv (ARRAYS.DLL)" */
+    LONG linea;                   /* line of the check in that module */
+    const char *ubicacion_origen; /* ARR_INFORME_ORIGEN only, else NULL */
+    LONG linea_origen;
+} arr_informe;
+
+typedef void (*arr_manejador_informes)(const arr_informe *informe, void *contexto);
+
+/* Installs the handler that every report goes to and returns the previous one; NULL restores
+ * the default, which writes one line to standard error (and aborts afterwards when the
+ * environment variable ARRAYS_ABORTAR exists). */
+ARRAYS_API arr_manejador_informes arr_set_manejador_informes(arr_manejador_informes f,
+                                                             void *contexto) ARR_NOEXCEPT;
+
+/* Number of reports made since the process started. */
+ARRAYS_API ULONG64 arr_num_informes(void) ARR_NOEXCEPT;
+
+/* ---- Engine queries and switches --------------------------------------------------------- */
+
+/* TRUE when `array` is a live array of a type other than bits. Never reports. For a live
+ * array (bit arrays included) fills the outputs that are not NULL: tag, element count (bits
+ * for a bit array) and element size. */
+ARRAYS_API BOOL arryprv_es_array_correcto(const ARRAY *array, int32_t *tipo, int32_t *num_elems,
+                                          uint64_t *size_elem) ARR_NOEXCEPT;
+
+/* Process-wide switch of the lenient loop-guard check (on only while it equals 1).
+ * Returns the value stored. */
+ARRAYS_API BOOL arrayprv_set_comprobar_en_bucle(BOOL valor) ARR_NOEXCEPT;
+
+/* ---- Strings handed across the interface ------------------------------------------------ */
+
+/* Strings that callers hand over to an array (the ...Original operations) must come from these,
+ * and strings the library hands out are released with them. */
+ARRAYS_API char *cad_copia_cadena(const char *cadena) ARR_NOEXCEPT;
+ARRAYS_API void zarpstr_destruye(char **cadena) ARR_NOEXCEPT;
+ARRAYS_API WCHAR *widestr_fun_copia(const WCHAR *cadena) ARR_NOEXCEPT;
+ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
+                                        LONG linea) ARR_NOEXCEPT;
+
+/* ---- Scalar families ------------------------------------------------------------------- */
+
+/*
+ * One line per scalar family: its word in the export names, its C value type, its element
+ * type tag, and which of the optional operations it has (ARR_SI / ARR_NO): AppendN, AumentaTamanyo, ReduceTamanyo and
+ * the traversal arr_nousar_Recorre. For a family F of value type T:
+ *
+ *   ARRAY *arr_CreaF(ULONG n)                    new array of n zero elements
+ *   void   arr_AppendF(ARRAY *a, T v)            append v
+ *   void   arr_AppendNFs(ARRAY *a, ULONG n, T v) append v n times
+ *   void   arr_InsertarF(ARRAY *a, ULONG pos, T v)  insert v before pos (pos == count appends)
+ *   void   arr_BorrarF(ARRAY *a, ULONG pos)      delete the element at pos
+ *   T      arr_GetF(ARRAY *a, ULONG pos)         the element at pos
+ *   void   arr_SetF(ARRAY *a, ULONG pos, T v)    overwrite the element at pos
+ *   void   arr_InicializaF(ARRAY *a, T v)        set every element to v
+ *   void   arr_nousar_RecorreF(ARRAY *a, accion, void *datos, const char *ubicacion, LONG linea)
+ *          call accion(&element, datos) for every element in order; ubicacion and linea name
+ *          the caller in a report of a traversal already running
+ *
+ * and the functions shared by every family (one function under every family's name):
+ *   void  arr_DestruyeF(ARRAY **a)  ULONG arr_NumElemsF(ARRAY *a)
+ *   void  arr_AumentaTamanyoF(ARRAY *a, ULONG n)  grow to n elements (new ones are zero)
+ *   void  arr_ReduceTamanyoF(ARRAY *a, ULONG n)   shrink to n elements
+ */
+#define ARR_SI(...) __VA_ARGS__
+#define ARR_NO(...)
+
+/*   family  value type  tag                  AppendN  Aumenta  Reduce  Recorre */
+#define ARR_FAMILIAS_ESCALARES(X) \
+    X(Double, double, elem_DOUBLE_NO_USAR, ARR_SI, ARR_SI, ARR_SI, ARR_SI)
+
+#define ARR_DECLARA_FAMILIA_ESCALAR(F, T, TAG, APPENDN, AUMENTA, REDUCE, RECORRE)                 \
+    typedef BOOL (*arr_accion_##F)(T * elemento, void *datos);                                    \
+    ARRAYS_API ARRAY *arr_Crea##F(ULONG tamanyo_inicial) ARR_NOEXCEPT;                            \
+    ARRAYS_API void arr_Destruye##F(ARRAY **array) ARR_NOEXCEPT;                                  \
+    ARRAYS_API ULONG arr_NumElems##F(const ARRAY *array) ARR_NOEXCEPT;                            \
+    ARRAYS_API void arr_Append##F(ARRAY *array, T valor) ARR_NOEXCEPT;                            \
+    APPENDN(ARRAYS_API void arr_AppendN##F##s(ARRAY *array, ULONG num_veces, T valor) ARR_NOEXCEPT;) \
+    ARRAYS_API void arr_Insertar##F(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;               \
+    ARRAYS_API void arr_Borrar##F(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                          \
+    ARRAYS_API T arr_Get##F(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                                \
+    ARRAYS_API void arr_Set##F(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;                    \
+    ARRAYS_API void arr_Inicializa##F(ARRAY *array, T valor) ARR_NOEXCEPT;                        \
+    AUMENTA(ARRAYS_API void arr_AumentaTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;) \
+    REDUCE(ARRAYS_API void arr_ReduceTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;)   \
+    RECORRE(ARRAYS_API void arr_nousar_Recorre##F(ARRAY *array, arr_accion_##F accion, void *datos, \
+                                                  const char *ubicacion, LONG linea) ARR_NOEXCEPT;)
+
+ARR_FAMILIAS_ESCALARES(ARR_DECLARA_FAMILIA_ESCALAR)
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* ARRAYS_H */

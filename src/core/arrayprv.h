@@ -1,0 +1,229 @@
+// The array engine: one header over a table of rows serves every element type.
+//
+// Layout of an array: the header (struct ARRAY) owns four parallel tables of num_filas entries:
+//   buffer[i]          row block of max_long_filas[i] * size_elem bytes
+//   max_long_filas[i]  capacity of row i, never above long_max_fila_en_elem
+//   long_filas[i]      elements in use in row i, packed at its start, above 0 between calls
+//   acumulado_filas[i] elements in rows 0 .. i-1 (prefix sums)
+// The tables are all NULL exactly when num_filas is 0. Slots past a row's count are zero, except
+// those that a shrink cut off, which keep their old contents. Elements are moved as raw bytes
+// of size_elem; the engine switches on tipo_elem only where types differ (sizes, comparators,
+// owned strings).
+//
+// Every public operation checks its preconditions and reports a broken one by its exact text.
+// After a report it carries on, except that a NULL handle, a wrong validity mark, a wrong tag or
+// a position that does not exist ends it with a neutral result: the engine never touches memory
+// that is not a live array.
+#pragma once
+
+#include "arrays.h"
+
+#include <cstddef>
+#include <cstdint>
+
+// Location string of the engine's reports.
+inline constexpr const char *UBICACION_ARRAYPRV = "arrayprv (ARRAYS.DLL)";
+
+// Validity mark of a live header; cleared just before the header is freed.
+constexpr char MASCARA_DEBUG = '5';
+
+// Default row size of the families, in bytes.
+constexpr ULONG LONG_FILA_POR_DEFECTO = 2048;
+
+// Rows must stay below INT_MAX / sizeof(char *) - 1.
+constexpr size_t MAX_FILAS = 2147483647 / sizeof(char *) - 1;
+
+#pragma pack(push, 2)
+struct ARRAY {
+    tipo_elem_array tipo_elem;
+    ULONG long_max_fila_en_bytes; // row size asked for at creation; a copy leaves it unset
+    size_t num_elems;             // elements (bytes for a bit array)
+    BOOL en_bucle;                // a traversal that may modify the array is running
+    BOOL en_bucle_lectura;        // a read-only traversal is running
+    char mascara_debug;
+    char **buffer;
+    size_t *max_long_filas;
+    size_t *long_filas;
+    size_t *acumulado_filas;
+    size_t num_filas;
+    size_t size_elem;
+    size_t long_max_fila_en_elem;
+    ULONG num_bits; // bit arrays only
+};
+#pragma pack(pop)
+
+// One element: its row and its offset in the row. Valid while fila < num_filas and
+// pos < long_filas[fila].
+struct posicion_array {
+    size_t fila;
+    size_t pos;
+};
+
+// ---- Per-type callback tables --------------------------------------------------------------
+
+// Traversal actions, one member per element type; a typed caller sets only its own member.
+struct fnc_accion {
+    BOOL (*fnc_accion_BYTE)(BYTE *elemento, void *datos);
+    BOOL (*fnc_accion_BOOL)(BOOL *elemento, void *datos);
+    BOOL (*fnc_accion_char)(char *elemento, void *datos);
+    BOOL (*fnc_accion_uchar)(UCHAR *elemento, void *datos);
+    BOOL (*fnc_accion_short)(SHORT *elemento, void *datos);
+    BOOL (*fnc_accion_ushort)(USHORT *elemento, void *datos);
+    BOOL (*fnc_accion_long)(LONG *elemento, void *datos);
+    BOOL (*fnc_accion_ulong)(ULONG *elemento, void *datos);
+    BOOL (*fnc_accion_long64)(LONG64 *elemento, void *datos);
+    BOOL (*fnc_accion_ulong64)(ULONG64 *elemento, void *datos);
+    BOOL (*fnc_accion_double)(double *elemento, void *datos);
+    BOOL (*fnc_accion_CADENA)(char **cadena, void *datos);
+    BOOL (*fnc_accion_CADENA_U)(WCHAR **cadena, void *datos);
+    BOOL (*fnc_accion_puntero)(void **ptr, void *datos);
+    BOOL (*fnc_accion_punto2D)(double *x, double *y, void *datos);
+    BOOL (*fnc_accion_punto2DX)(double *x, double *y, void **datos_punto, void *datos);
+    BOOL (*fnc_accion_punto3D)(double *x, double *y, double *z, void *datos);
+};
+
+// ---- Services of the engine to itself (element sizes, checking mode, loop guards) ----------
+
+// Element size of a tag; an unknown tag is reported and yields 0.
+size_t arrayprv_size_elem(tipo_elem_array tipo);
+
+// TRUE when the environment held ARRAYPRUEBA at the first call that asked; fixed from then on.
+BOOL arrayprv_es_modo_comprobacion();
+
+// The full consistency check; modo 1 refuses a running traversal (strict), 0 is lenient.
+void arrayprv_comprueba_array(const ARRAY *array, BOOL modo);
+
+// The loop-guard check: reports "en_bucle == FALSO" with the caller's location when `guarda` is
+// set and the check applies (always in strict modo 1, else only while comprobar_en_bucle is 1).
+void arrayprv_comprueba_en_bucle(BOOL guarda, BOOL modo, const char *ubicacion, LONG linea);
+
+// How an operation checks its array on entry: which texts name the handle, whether a running
+// traversal is refused, and which form of the full check replaces the cheap checks in checking
+// mode.
+struct TextosEntrada {
+    const char *nulo;
+    const char *mascara;
+    const char *en_bucle;
+    const char *en_bucle_lectura;
+};
+inline constexpr TextosEntrada TEXTOS_ARRAY{"(array) != NULL", "array->mascara_debug == MASCARA_DEBUG",
+                                            "array->en_bucle == FALSO",
+                                            "array->en_bucle_lectura == FALSO"};
+inline constexpr TextosEntrada TEXTOS_ARRAY_CORTO{"array", TEXTOS_ARRAY.mascara, TEXTOS_ARRAY.en_bucle,
+                                                  TEXTOS_ARRAY.en_bucle_lectura};
+inline constexpr TextosEntrada TEXTOS_HANDLE{"(*array) != NULL",
+                                             "(*array)->mascara_debug == MASCARA_DEBUG",
+                                             "(*array)->en_bucle == FALSO",
+                                             "(*array)->en_bucle_lectura == FALSO"};
+inline constexpr TextosEntrada TEXTOS_DESTINO{"(dest) != NULL", "dest->mascara_debug == MASCARA_DEBUG",
+                                              "dest->en_bucle == FALSO",
+                                              "dest->en_bucle_lectura == FALSO"};
+enum class Modo { ninguno, leniente, estricto };
+
+// Runs the entry check; false when the handle cannot be touched (NULL or not a live header).
+bool arrayprv_entrada(const ARRAY *array, const TextosEntrada &textos, bool guardas, Modo modo);
+// The same, then the tag test "array->tipo_elem == tipo_elem" (or `texto_tipo`); false when any
+// of them fails.
+bool arrayprv_entrada_tipo(const ARRAY *array, const TextosEntrada &textos, bool guardas, Modo modo,
+                           tipo_elem_array tipo_elem,
+                           const char *texto_tipo = "array->tipo_elem == tipo_elem");
+
+// ---- Lifecycle (header, tags, creation, destruction, count) --------------------------------
+
+ARRAY *arrayprv_crea(ULONG tamanyo_inicial, tipo_elem_array tipo, ULONG long_fila_en_bytes);
+void arrayprv_destruye(ARRAY **array);
+void arrayprv_libera_filas(ARRAY *array);
+// Bits for a bit array, otherwise elements (narrowed to 32 bits).
+ULONG arrayprv_num_elems(const ARRAY *array);
+
+// ---- Rows ----------------------------------------------------------------------------------
+
+size_t arrayprv_incremento_fila(size_t long_actual, size_t elem_a_poner, size_t long_max);
+void arrayprv_crece_fila(ARRAY *array, size_t fila, size_t elem_a_poner);
+void arrayprv_anyade_filas(ARRAY *array, size_t num_elems_a_poner);
+void arrayprv_inserta_fila(ARRAY *array, size_t fila, size_t elem_a_poner);
+void arrayprv_borra_fila(ARRAY *array, size_t fila);
+void arrayprv_quita_filas_vacias(ARRAY *array);
+void arrayprv_compacta(ARRAY *array);
+void arrayprv_mueve_elementos(ARRAY *array, size_t fila_dest, size_t pos_dest, size_t fila_org,
+                              size_t pos_org, size_t elem_a_mover);
+// Inserts one element inside its row, enlarging the row when full. False when the row cannot
+// take it (its capacity is already the maximum): nothing is written then.
+bool arrayprv_inserta_en_fila(ARRAY *array, const posicion_array *posi, const void *elemento);
+void arrayprv_borra_en_fila(ARRAY *array, const posicion_array *posi);
+
+// ---- Positions (the one place that maps an index to a row and offset) ----------------------
+
+// Maps `real_pos` to its row and offset; false (after the reports) when there is no such element.
+bool arrayprv_posicion(const ARRAY *array, ULONG real_pos, posicion_array *posi);
+void arrayprv_siguiente_posicion(const ARRAY *array, posicion_array *posi);
+// Checks a position; false when it does not name an element.
+bool arrayprv_comprueba_posicion(const ARRAY *array, const posicion_array *posi);
+// The element's address after checking the position and the tag; NULL when either fails.
+void *arrayprv_direccion_elemento(const ARRAY *array, const posicion_array *posi,
+                                  tipo_elem_array tipo_elem);
+
+// ---- Elements (the bodies behind the typed append, insert, delete, get, set, ...) ----------
+
+size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem);
+void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento,
+                      tipo_elem_array tipo_elem);
+void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
+// Address of the element inside its row, valid until the array next changes; NULL when the
+// element cannot be reached.
+void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
+void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem);
+void arrayprv_inicializa(ARRAY *array, const void *elemento, tipo_elem_array tipo);
+void arrayprv_aumenta_tamanyo(ARRAY *array, ULONG nuevo_tamanyo);
+void arrayprv_reduce_tamanyo(ARRAY *array, ULONG nuevo_tamanyo);
+// The cut of a shrink, after the caller has released what the cut elements own.
+void arrayprv_recorta(ARRAY *array, size_t nuevo_tamanyo);
+
+// What elements own: strings are destroyed; pointers and private data must already be NULL
+// (each one still set is reported as "ptr == NULL"). From `real_pos` to the end, or all.
+void arrayprv_libera_contenido_desde(ARRAY *array, ULONG real_pos);
+void arrayprv_libera_contenido(ARRAY *array);
+
+// ---- Element walks (the one place that visits consecutive elements) -------------------------
+
+// Calls visita(address) for up to `cuantos` elements from `desde` on, in storage order. Every
+// step re-reads the row tables, so a callback that changes or destroys the array (a reported
+// misuse) ends the walk instead of reading freed memory.
+template <typename Visita>
+void arrayprv_visita(const ARRAY *array, posicion_array desde, size_t cuantos, Visita &&visita)
+{
+    size_t fila = desde.fila;
+    size_t pos = desde.pos;
+    while (cuantos > 0 && fila < array->num_filas) {
+        if (pos >= array->long_filas[fila]) {
+            ++fila;
+            pos = 0;
+            continue;
+        }
+        visita(array->buffer[fila] + pos * array->size_elem);
+        ++pos;
+        --cuantos;
+    }
+}
+
+template <typename Visita>
+void arrayprv_visita_todos(const ARRAY *array, Visita &&visita)
+{
+    arrayprv_visita(array, posicion_array{0, 0}, SIZE_MAX, visita);
+}
+
+// ---- Traversal ---------------------------------------------------------------------------
+
+void arrayprv_recorre(ARRAY *array, const fnc_accion *acciones, void *datos,
+                      tipo_elem_array tipo_elem, BOOL modo, BOOL lectura, const char *ubicacion,
+                      LONG linea);
+void arrayprv_recorre_rango(ARRAY *array, ULONG inic, ULONG fin, const fnc_accion *acciones,
+                            void *datos, tipo_elem_array tipo_elem, BOOL modo);
+
+// Walks over the pointers of a pointer array, or the private data of 2D points with data.
+using operacion_puntero = void (*)(void *ptr);
+using operacion_direccion = void (*)(void **ptr);
+void arrayprv_opera_todos(ARRAY *array, operacion_puntero operacion);
+void arrayprv_opera_direccion_todos(ARRAY *array, operacion_direccion operacion);
+void arrayprv_opera_desde(ARRAY *array, ULONG real_pos, operacion_puntero operacion);
+void arrayprv_opera_direccion_desde(ARRAY *array, ULONG real_pos, operacion_direccion operacion);

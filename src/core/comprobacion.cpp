@@ -1,0 +1,92 @@
+// Checking mode and the full consistency check of a header and its rows, plus the validity
+// query that other modules use without reports.
+#include "core/arrayprv.h"
+
+#include "services/informes.h"
+
+#include <atomic>
+#include <cstdlib>
+
+namespace {
+
+constexpr const char *UBICACION = UBICACION_ARRAYPRV;
+
+// Checking mode is decided once, at the first operation that asks.
+std::atomic<BOOL> modo_sin_decidir{1};
+std::atomic<BOOL> modo_comprobacion{FALSO};
+
+// The invariants of the row tables of an array that has rows.
+void comprueba_filas(const ARRAY *array)
+{
+    ARR_EXIGE(array->num_filas < MAX_FILAS, "array->num_filas < INT_MAX / sizeof(char *) - 1");
+    const bool hay_tablas = ARR_EXIGE(array->long_filas, "array->long_filas") &
+                            ARR_EXIGE(array->max_long_filas, "array->max_long_filas") &
+                            ARR_EXIGE(array->buffer, "array->buffer") &
+                            (array->acumulado_filas != nullptr);
+    if (!hay_tablas)
+        return;
+    for (size_t i = 0; i < array->num_filas; ++i) {
+        ARR_EXIGE(array->buffer[i], "array->buffer[i]");
+        ARR_EXIGE(array->long_filas[i] > 0, "array->long_filas[i] > 0");
+        ARR_EXIGE(array->long_filas[i] <= array->max_long_filas[i],
+                  "array->long_filas[i] <= array->max_long_filas[i]");
+        ARR_EXIGE(array->max_long_filas[i] <= array->long_max_fila_en_elem,
+                  "array->max_long_filas[i] <= array->long_max_fila_en_elem");
+    }
+    ARR_EXIGE(array->acumulado_filas[0] == 0, "array->acumulado_filas[0] == 0");
+    for (size_t i = 1; i < array->num_filas; ++i)
+        ARR_EXIGE(array->acumulado_filas[i] ==
+                      array->acumulado_filas[i - 1] + array->long_filas[i - 1],
+                  "array->acumulado_filas[i] == array->acumulado_filas[i - 1] + "
+                  "array->long_filas[i - 1]");
+    const size_t ultima = array->num_filas - 1;
+    ARR_EXIGE(array->acumulado_filas[ultima] + array->long_filas[ultima] == array->num_elems,
+              "array->acumulado_filas[array->num_filas - 1] + "
+              "array->long_filas[array->num_filas - 1] == array->num_elems");
+}
+
+} // namespace
+
+BOOL arrayprv_es_modo_comprobacion()
+{
+    if (modo_sin_decidir.exchange(0) != 0)
+        modo_comprobacion = std::getenv("ARRAYPRUEBA") != nullptr ? CIERTO : FALSO;
+    return modo_comprobacion;
+}
+
+void arrayprv_comprueba_array(const ARRAY *array, BOOL modo)
+{
+    if (!ARR_EXIGE(array, "array") ||
+        !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, "array->mascara_debug == MASCARA_DEBUG"))
+        return;
+    arrayprv_comprueba_en_bucle(array->en_bucle, modo, UBICACION, __LINE__);
+    if (array->num_filas > 0) {
+        comprueba_filas(array);
+    } else {
+        ARR_EXIGE(array->num_elems == 0, "array->num_elems == 0");
+        ARR_EXIGE(array->long_filas == nullptr, "array->long_filas == NULL");
+        ARR_EXIGE(array->max_long_filas == nullptr, "array->max_long_filas == NULL");
+        ARR_EXIGE(array->acumulado_filas == nullptr, "array->acumulado_filas == NULL");
+        ARR_EXIGE(array->buffer == nullptr, "array->buffer == NULL");
+    }
+    if (array->tipo_elem != elem_BIT_NO_USAR)
+        ARR_EXIGE(array->num_bits == 0, "array->num_bits == 0");
+}
+
+extern "C" ARRAYS_API BOOL arryprv_es_array_correcto(const ARRAY *array, int32_t *tipo,
+                                                     int32_t *num_elems,
+                                                     uint64_t *size_elem) noexcept
+{
+    if (array == nullptr || array->mascara_debug != MASCARA_DEBUG)
+        return FALSO;
+    if (tipo != nullptr)
+        *tipo = array->tipo_elem;
+    if (num_elems != nullptr)
+        *num_elems = static_cast<int32_t>(array->tipo_elem == elem_BIT_NO_USAR
+                                              ? array->num_bits
+                                              : static_cast<ULONG>(array->num_elems));
+    if (size_elem != nullptr)
+        *size_elem = array->size_elem;
+    return (array->tipo_elem >= elem_BYTE_NO_USAR && array->tipo_elem <= elem_PUNTO3D_NO_USAR) ||
+           array->tipo_elem == elem_CADENA_U_NO_USAR;
+}

@@ -1,0 +1,118 @@
+// Narrow strings: copies, destruction, exact and case-insensitive comparison, concatenation and
+// formatting, all in tracked memory.
+#include "services/cadenas.h"
+
+#include "services/memoria.h"
+
+#include <cstdarg>
+#include <cstdio>
+#include <cstring>
+
+#include <unicode/uchar.h>
+#include <unicode/utf8.h>
+
+namespace {
+
+char *nueva_cadena(size_t longitud)
+{
+    char *cadena = static_cast<char *>(zarpspy_nousar_malloc(longitud + 1));
+    cadena[longitud] = '\0';
+    return cadena;
+}
+
+// The next code point of a UTF-8 string, or a negative value at an ill-formed sequence.
+UChar32 siguiente(const char *s, int32_t &i)
+{
+    UChar32 c;
+    U8_NEXT(s, i, -1, c);
+    return c;
+}
+
+} // namespace
+
+extern "C" ARRAYS_API char *cad_copia_cadena(const char *cadena) noexcept
+{
+    if (cadena == nullptr)
+        return nullptr;
+    const size_t longitud = std::strlen(cadena);
+    char *copia = nueva_cadena(longitud);
+    std::memcpy(copia, cadena, longitud);
+    return copia;
+}
+
+extern "C" ARRAYS_API void zarpstr_destruye(char **cadena) noexcept
+{
+    zarpspy_nousar_free_pp(cadena, 1);
+}
+
+void zarpstr_destruyeListaCadenas(ULONG num, void *tabla)
+{
+    void ***celda = static_cast<void ***>(tabla);
+    if (celda == nullptr || *celda == nullptr)
+        return;
+    for (ULONG i = 0; i < num; ++i)
+        zarpspy_nousar_free_pp(&(*celda)[i], 1);
+    zarpspy_nousar_free_pp(celda, sizeof(void *));
+}
+
+int cad_cadenas_compara(const char *a, const char *b)
+{
+    if (a == nullptr || b == nullptr)
+        return (a != nullptr) - (b != nullptr);
+    return std::strcmp(a, b);
+}
+
+BOOL cad_cadenas_iguales(const char *a, const char *b)
+{
+    if (a == nullptr || b == nullptr)
+        return a == b;
+    return std::strcmp(a, b) == 0;
+}
+
+BOOL cad_cadenas_iguales_may_o_min(const char *a, const char *b)
+{
+    if (a == nullptr || b == nullptr)
+        return a == b;
+    int32_t i = 0;
+    int32_t j = 0;
+    for (;;) {
+        const UChar32 ca = siguiente(a, i);
+        const UChar32 cb = siguiente(b, j);
+        if (ca < 0 || cb < 0)
+            return std::strcmp(a, b) == 0;
+        if (u_foldCase(ca, U_FOLD_CASE_DEFAULT) != u_foldCase(cb, U_FOLD_CASE_DEFAULT))
+            return FALSO;
+        if (ca == 0)
+            return CIERTO;
+    }
+}
+
+void cad_concatena(char **destino, const char *cadena)
+{
+    const size_t previa = *destino != nullptr ? std::strlen(*destino) : 0;
+    const size_t anyadida = cadena != nullptr ? std::strlen(cadena) : 0;
+    char *resultado = static_cast<char *>(zarpspy_nousar_realloc(*destino, previa + anyadida + 1));
+    std::memcpy(resultado + previa, cadena != nullptr ? cadena : "", anyadida + 1);
+    *destino = resultado;
+}
+
+char *creacadena_con_caracter(ULONG num, char caracter)
+{
+    char *cadena = nueva_cadena(num);
+    std::memset(cadena, caracter, num);
+    return cadena;
+}
+
+char *nousar_formatea(const char *formato, ...)
+{
+    va_list argumentos;
+    va_start(argumentos, formato);
+    va_list copia;
+    va_copy(copia, argumentos);
+    const int longitud = std::vsnprintf(nullptr, 0, formato, argumentos);
+    va_end(argumentos);
+    char *cadena = nueva_cadena(longitud > 0 ? static_cast<size_t>(longitud) : 0);
+    std::vsnprintf(cadena, static_cast<size_t>(longitud) + 1, formato, copia);
+    va_end(copia);
+    return cadena;
+}

@@ -1,0 +1,83 @@
+// The report service: a replaceable handler, a default one that writes a line to standard error
+// (and aborts when ARRAYS_ABORTAR exists), and a process-wide counter of reports.
+#include "services/informes.h"
+
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include <unicode/ustring.h>
+
+namespace {
+
+void manejador_por_defecto(const arr_informe *informe, void *)
+{
+    static const char *const clases[] = {"error interno", "error interno", "tipo no tratado"};
+    if (informe->clase == ARR_INFORME_ORIGEN)
+        std::fprintf(stderr, "arrays: %s: \"%s\" en %s, linea %d, llamado desde %s, linea %d\n",
+                     clases[informe->clase], informe->expresion, informe->ubicacion,
+                     static_cast<int>(informe->linea), informe->ubicacion_origen,
+                     static_cast<int>(informe->linea_origen));
+    else
+        std::fprintf(stderr, "arrays: %s: \"%s\" en %s, linea %d\n", clases[informe->clase],
+                     informe->expresion, informe->ubicacion, static_cast<int>(informe->linea));
+    if (std::getenv("ARRAYS_ABORTAR") != nullptr)
+        std::abort();
+}
+
+std::atomic<arr_manejador_informes> manejador{manejador_por_defecto};
+std::atomic<void *> contexto_manejador{nullptr};
+std::atomic<ULONG64> num_informes{0};
+
+void informa(const arr_informe &informe)
+{
+    num_informes.fetch_add(1, std::memory_order_relaxed);
+    manejador.load()(&informe, contexto_manejador.load());
+}
+
+// The UTF-8 form of a zero-terminated UTF-16 text (ill-formed units become U+FFFD).
+std::string a_utf8(const WCHAR *texto)
+{
+    UErrorCode estado = U_ZERO_ERROR;
+    int32_t longitud = 0;
+    u_strToUTF8WithSub(nullptr, 0, &longitud, texto, -1, 0xFFFD, nullptr, &estado);
+    std::string utf8(static_cast<size_t>(longitud), '\0');
+    estado = U_ZERO_ERROR;
+    u_strToUTF8WithSub(utf8.data(), longitud, nullptr, texto, -1, 0xFFFD, nullptr, &estado);
+    return utf8;
+}
+
+} // namespace
+
+void error_interno(const char *expresion, const char *ubicacion, LONG linea, int)
+{
+    informa({ARR_INFORME_ERROR, expresion, ubicacion, linea, nullptr, 0});
+}
+
+void error_interno_origen(const WCHAR *expresion, const char *ubicacion, LONG linea,
+                          const char *ubicacion_origen, LONG linea_origen, int)
+{
+    const std::string texto = a_utf8(expresion);
+    informa({ARR_INFORME_ORIGEN, texto.c_str(), ubicacion, linea,
+             ubicacion_origen != nullptr ? ubicacion_origen : "", linea_origen});
+}
+
+void error_interno_default_error(int, int, const char *ubicacion, LONG linea, int)
+{
+    informa({ARR_INFORME_DEFAULT, "", ubicacion, linea, nullptr, 0});
+}
+
+extern "C" ARRAYS_API arr_manejador_informes arr_set_manejador_informes(arr_manejador_informes f,
+                                                                        void *contexto) noexcept
+{
+    contexto_manejador.store(contexto);
+    const arr_manejador_informes anterior =
+        manejador.exchange(f != nullptr ? f : manejador_por_defecto);
+    return anterior == manejador_por_defecto ? nullptr : anterior;
+}
+
+extern "C" ARRAYS_API ULONG64 arr_num_informes(void) noexcept
+{
+    return num_informes.load(std::memory_order_relaxed);
+}

@@ -1,0 +1,151 @@
+// Tracked heap memory: each block carries a small prefix with its size, so that live bytes can be
+// counted without a table; header slots come from a pool that never returns memory.
+#include "services/memoria.h"
+
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+#include <vector>
+
+namespace {
+
+// The prefix keeps the user's block aligned as malloc aligns it.
+constexpr size_t PREFIJO = alignof(std::max_align_t);
+
+std::atomic<size_t> bloques_vivos{0};
+std::atomic<size_t> bytes_vivos{0};
+
+[[noreturn]] void sin_memoria(size_t tamanyo)
+{
+    std::fprintf(stderr, "arrays: sin memoria para %zu bytes\n", tamanyo);
+    std::abort();
+}
+
+void *usuario(void *base) { return static_cast<char *>(base) + PREFIJO; }
+void *base_de(void *bloque) { return static_cast<char *>(bloque) - PREFIJO; }
+size_t &tamanyo_de(void *base) { return *static_cast<size_t *>(base); }
+
+void cuenta_alta(size_t tamanyo)
+{
+    bloques_vivos.fetch_add(1, std::memory_order_relaxed);
+    bytes_vivos.fetch_add(tamanyo, std::memory_order_relaxed);
+}
+
+void cuenta_baja(size_t tamanyo)
+{
+    bloques_vivos.fetch_sub(1, std::memory_order_relaxed);
+    bytes_vivos.fetch_sub(tamanyo, std::memory_order_relaxed);
+}
+
+// Header slots: carved from chunks that are never freed; free slots wait in a list kept apart
+// from the slots, so a returned slot keeps the bytes its last owner left in it.
+struct PoolCabeceras {
+    std::mutex cerrojo;
+    size_t tamanyo_slot = 0;
+    std::vector<void *> libres;
+    std::vector<void *> trozos;
+    static constexpr size_t SLOTS_POR_TROZO = 256;
+
+    void *reserva(size_t tamanyo)
+    {
+        std::lock_guard<std::mutex> guarda(cerrojo);
+        if (tamanyo_slot == 0)
+            tamanyo_slot = tamanyo;
+        if (tamanyo != tamanyo_slot)
+            std::abort();
+        if (libres.empty()) {
+            void *trozo = std::calloc(SLOTS_POR_TROZO, tamanyo_slot);
+            if (trozo == nullptr)
+                sin_memoria(SLOTS_POR_TROZO * tamanyo_slot);
+            trozos.push_back(trozo);
+            for (size_t i = SLOTS_POR_TROZO; i-- > 0;)
+                libres.push_back(static_cast<char *>(trozo) + i * tamanyo_slot);
+        }
+        void *slot = libres.back();
+        libres.pop_back();
+        return slot;
+    }
+
+    void libera(void *slot)
+    {
+        std::lock_guard<std::mutex> guarda(cerrojo);
+        libres.push_back(slot);
+    }
+};
+
+PoolCabeceras &pool()
+{
+    static PoolCabeceras *unico = new PoolCabeceras; // lives as long as the process
+    return *unico;
+}
+
+} // namespace
+
+void *zarpspy_nousar_malloc(size_t tamanyo)
+{
+    void *base = std::malloc(PREFIJO + tamanyo);
+    if (base == nullptr)
+        sin_memoria(tamanyo);
+    tamanyo_de(base) = tamanyo;
+    cuenta_alta(tamanyo);
+    return usuario(base);
+}
+
+void *zarpspy_nousar_calloc(size_t num, size_t tamanyo)
+{
+    const size_t total = num * tamanyo;
+    if (tamanyo != 0 && total / tamanyo != num)
+        sin_memoria(SIZE_MAX);
+    void *base = std::calloc(1, PREFIJO + total);
+    if (base == nullptr)
+        sin_memoria(total);
+    tamanyo_de(base) = total;
+    cuenta_alta(total);
+    return usuario(base);
+}
+
+void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo)
+{
+    if (bloque == nullptr)
+        return zarpspy_nousar_malloc(tamanyo);
+    void *base = base_de(bloque);
+    const size_t anterior = tamanyo_de(base);
+    void *nueva = std::realloc(base, PREFIJO + tamanyo);
+    if (nueva == nullptr)
+        sin_memoria(tamanyo);
+    tamanyo_de(nueva) = tamanyo;
+    bytes_vivos.fetch_add(tamanyo - anterior, std::memory_order_relaxed); // wraps when shrinking
+    return usuario(nueva);
+}
+
+void zarpspy_nousar_free_pp(void *puntero, size_t)
+{
+    void **celda = static_cast<void **>(puntero);
+    if (celda == nullptr || *celda == nullptr)
+        return;
+    void *base = base_de(*celda);
+    cuenta_baja(tamanyo_de(base));
+    std::free(base);
+    *celda = nullptr;
+}
+
+void *zarpspy_reserva_cabecera(size_t tamanyo)
+{
+    void *slot = pool().reserva(tamanyo);
+    cuenta_alta(tamanyo);
+    return slot;
+}
+
+void zarpspy_libera_cabecera(void *puntero)
+{
+    void **celda = static_cast<void **>(puntero);
+    if (celda == nullptr || *celda == nullptr)
+        return;
+    cuenta_baja(pool().tamanyo_slot);
+    pool().libera(*celda);
+    *celda = nullptr;
+}
+
+size_t zarpspy_bloques_vivos() { return bloques_vivos.load(std::memory_order_relaxed); }
+size_t zarpspy_bytes_vivos() { return bytes_vivos.load(std::memory_order_relaxed); }

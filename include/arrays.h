@@ -148,8 +148,11 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
 
 /*
  * One line per scalar family: its word in the export names, its C value type, its element
- * type tag, and which of the optional operations it has (ARR_SI / ARR_NO): AppendN, AumentaTamanyo, ReduceTamanyo and
- * the traversal arr_nousar_Recorre. For a family F of value type T:
+ * type tag, how its values compare (ARR_BOOLEANO: always exactly, no predicates; ARR_ENTERO: an
+ * optional predicate in searches, exact equality of arrays; ARR_REAL: a predicate required in
+ * searches and in equality of arrays), and which of the optional operations it has (ARR_SI /
+ * ARR_NO): AppendN, AumentaTamanyo, ReduceTamanyo and the traversal arr_nousar_Recorre.
+ * For a family F of value type T:
  *
  *   ARRAY *arr_CreaF(ULONG n)                    new array of n zero elements
  *   void   arr_AppendF(ARRAY *a, T v)            append v
@@ -159,24 +162,42 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
  *   T      arr_GetF(ARRAY *a, ULONG pos)         the element at pos
  *   void   arr_SetF(ARRAY *a, ULONG pos, T v)    overwrite the element at pos
  *   void   arr_InicializaF(ARRAY *a, T v)        set every element to v
+ *   ULONG  arr_BuscarF(ARRAY *a, T v [, igualdad])      first position equal to v, or ARR_ULONG_MAX
+ *   ULONG  arr_BuscarUnicoF(ARRAY *a, T v [, igualdad]) the same; a second match is reported
+ *   BOOL   arr_ExisteF(ARRAY *a, T v [, igualdad], ULONG *pos)  found? pos (if not NULL) gets
+ *          the position or ARR_ULONG_MAX; arr_ExisteUnicoF likewise
+ *   void   arr_QSortF(ARRAY *a, arr_orden_F comparador)  sort in place; NULL: ascending
+ *   BOOL   arr_SonIgualesF(ARRAY *a, ARRAY *b [, igualdad])  same count and equal elements
  *   void   arr_nousar_RecorreF(ARRAY *a, accion, void *datos, const char *ubicacion, LONG linea)
  *          call accion(&element, datos) for every element in order; ubicacion and linea name
  *          the caller in a report of a traversal already running
  *
  * and the functions shared by every family (one function under every family's name):
- *   void  arr_DestruyeF(ARRAY **a)  ULONG arr_NumElemsF(ARRAY *a)
- *   void  arr_AumentaTamanyoF(ARRAY *a, ULONG n)  grow to n elements (new ones are zero)
- *   void  arr_ReduceTamanyoF(ARRAY *a, ULONG n)   shrink to n elements
+ *   void   arr_DestruyeF(ARRAY **a)         ULONG arr_NumElemsF(ARRAY *a)
+ *   ARRAY *arr_CopiaF(ARRAY *a)             a new array with the same elements
+ *   void   arr_ConcatenaF(ARRAY *dest, ARRAY *org)  append org's elements to dest
+ *   void   arr_AumentaTamanyoF(ARRAY *a, ULONG n)   grow to n elements (new ones are zero)
+ *   void   arr_ReduceTamanyoF(ARRAY *a, ULONG n)    shrink to n elements
  */
 #define ARR_SI(...) __VA_ARGS__
 #define ARR_NO(...)
 
-/*   family  value type  tag                  AppendN  Aumenta  Reduce  Recorre */
-#define ARR_FAMILIAS_ESCALARES(X) \
-    X(Double, double, elem_DOUBLE_NO_USAR, ARR_SI, ARR_SI, ARR_SI, ARR_SI)
+/* The predicate parameter of searches and of array equality, by how a family compares. */
+#define ARR_BUSCA_CON_ARR_BOOLEANO(F)
+#define ARR_BUSCA_CON_ARR_ENTERO(F) , arr_igualdad_##F igualdad
+#define ARR_BUSCA_CON_ARR_REAL(F) , arr_igualdad_##F igualdad
+#define ARR_IGUALES_CON_ARR_BOOLEANO(F)
+#define ARR_IGUALES_CON_ARR_ENTERO(F)
+#define ARR_IGUALES_CON_ARR_REAL(F) , arr_igualdad_##F igualdad
 
-#define ARR_DECLARA_FAMILIA_ESCALAR(F, T, TAG, APPENDN, AUMENTA, REDUCE, RECORRE)                 \
+/*   family  value type  tag                  compares   AppendN  Aumenta  Reduce  Recorre */
+#define ARR_FAMILIAS_ESCALARES(X) \
+    X(Double, double, elem_DOUBLE_NO_USAR, ARR_REAL, ARR_SI, ARR_SI, ARR_SI, ARR_SI)
+
+#define ARR_DECLARA_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, RECORRE)        \
     typedef BOOL (*arr_accion_##F)(T * elemento, void *datos);                                    \
+    typedef BOOL (*arr_igualdad_##F)(T a, T b);                                                   \
+    typedef int (*arr_orden_##F)(T a, T b);                                                       \
     ARRAYS_API ARRAY *arr_Crea##F(ULONG tamanyo_inicial) ARR_NOEXCEPT;                            \
     ARRAYS_API void arr_Destruye##F(ARRAY **array) ARR_NOEXCEPT;                                  \
     ARRAYS_API ULONG arr_NumElems##F(const ARRAY *array) ARR_NOEXCEPT;                            \
@@ -187,6 +208,16 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
     ARRAYS_API T arr_Get##F(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                                \
     ARRAYS_API void arr_Set##F(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;                    \
     ARRAYS_API void arr_Inicializa##F(ARRAY *array, T valor) ARR_NOEXCEPT;                        \
+    ARRAYS_API ULONG arr_Buscar##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F)) ARR_NOEXCEPT; \
+    ARRAYS_API ULONG arr_BuscarUnico##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F)) ARR_NOEXCEPT; \
+    ARRAYS_API BOOL arr_Existe##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),               \
+                                  ULONG *posicion) ARR_NOEXCEPT;                                  \
+    ARRAYS_API BOOL arr_ExisteUnico##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),          \
+                                       ULONG *posicion) ARR_NOEXCEPT;                             \
+    ARRAYS_API void arr_QSort##F(ARRAY *array, arr_orden_##F comparador) ARR_NOEXCEPT;            \
+    ARRAYS_API BOOL arr_SonIguales##F(ARRAY *array1, ARRAY *array2 ARR_IGUALES_CON_##COMPARA(F)) ARR_NOEXCEPT; \
+    ARRAYS_API ARRAY *arr_Copia##F(const ARRAY *array) ARR_NOEXCEPT;                              \
+    ARRAYS_API void arr_Concatena##F(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;                 \
     AUMENTA(ARRAYS_API void arr_AumentaTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;) \
     REDUCE(ARRAYS_API void arr_ReduceTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;)   \
     RECORRE(ARRAYS_API void arr_nousar_Recorre##F(ARRAY *array, arr_accion_##F accion, void *datos, \

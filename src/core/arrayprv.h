@@ -20,6 +20,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 // Location string of the engine's reports.
 inline constexpr const char *UBICACION_ARRAYPRV = "arrayprv (ARRAYS.DLL)";
@@ -186,9 +187,10 @@ void arrayprv_libera_contenido(ARRAY *array);
 
 // ---- Element walks (the one place that visits consecutive elements) -------------------------
 
-// Calls visita(address) for up to `cuantos` elements from `desde` on, in storage order. Every
-// step re-reads the row tables, so a callback that changes or destroys the array (a reported
-// misuse) ends the walk instead of reading freed memory.
+// Calls visita(address) for up to `cuantos` elements from `desde` on, in storage order; a visita
+// that returns bool ends the walk by returning false. Every step re-reads the row tables, so a
+// callback that changes or destroys the array (a reported misuse) ends the walk instead of
+// reading freed memory.
 template <typename Visita>
 void arrayprv_visita(const ARRAY *array, posicion_array desde, size_t cuantos, Visita &&visita)
 {
@@ -200,7 +202,13 @@ void arrayprv_visita(const ARRAY *array, posicion_array desde, size_t cuantos, V
             pos = 0;
             continue;
         }
-        visita(array->buffer[fila] + pos * array->size_elem);
+        char *elemento = array->buffer[fila] + pos * array->size_elem;
+        if constexpr (std::is_same_v<decltype(visita(elemento)), bool>) {
+            if (!visita(elemento))
+                return;
+        } else {
+            visita(elemento);
+        }
         ++pos;
         --cuantos;
     }
@@ -210,6 +218,24 @@ template <typename Visita>
 void arrayprv_visita_todos(const ARRAY *array, Visita &&visita)
 {
     arrayprv_visita(array, posicion_array{0, 0}, SIZE_MAX, visita);
+}
+
+// Walks two arrays in step from their first elements, calling visita(address1, address2) while
+// both have elements and visita returns true.
+template <typename Visita>
+void arrayprv_visita_pares(const ARRAY *array1, const ARRAY *array2, Visita &&visita)
+{
+    size_t fila2 = 0;
+    size_t pos2 = 0;
+    arrayprv_visita_todos(array1, [&](char *elemento1) {
+        while (fila2 < array2->num_filas && pos2 >= array2->long_filas[fila2]) {
+            ++fila2;
+            pos2 = 0;
+        }
+        if (fila2 >= array2->num_filas)
+            return false;
+        return visita(elemento1, array2->buffer[fila2] + pos2++ * array2->size_elem);
+    });
 }
 
 // ---- Traversal ---------------------------------------------------------------------------

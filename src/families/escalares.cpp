@@ -1,7 +1,15 @@
 // The exports of every scalar family, one table line each (ARR_FAMILIAS_ESCALARES in arrays.h).
 #include "families/familia_escalar.h"
 
-#define ARR_DEFINE_FAMILIA_ESCALAR(F, T, TAG, APPENDN, AUMENTA, REDUCE, RECORRE)                  \
+// The predicate a search or an equality passes on, by how the family compares.
+#define ARR_IGUALDAD_DE_ARR_BOOLEANO nullptr
+#define ARR_IGUALDAD_DE_ARR_ENTERO igualdad
+#define ARR_IGUALDAD_DE_ARR_REAL igualdad
+#define ARR_IGUALES_DE_ARR_BOOLEANO nullptr
+#define ARR_IGUALES_DE_ARR_ENTERO nullptr
+#define ARR_IGUALES_DE_ARR_REAL igualdad
+
+#define ARR_DEFINE_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, RECORRE)         \
     extern "C" ARRAY *arr_Crea##F(ULONG tamanyo_inicial) noexcept                                 \
     {                                                                                             \
         return FamiliaEscalar<TAG>::crea(tamanyo_inicial);                                        \
@@ -32,6 +40,35 @@
     extern "C" void arr_Inicializa##F(ARRAY *array, T valor) noexcept                             \
     {                                                                                             \
         FamiliaEscalar<TAG>::inicializa(array, valor);                                            \
+    }                                                                                             \
+    extern "C" ULONG arr_Buscar##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F)) noexcept     \
+    {                                                                                             \
+        return FamiliaEscalar<TAG>::busca(array, valor, ARR_IGUALDAD_DE_##COMPARA, FALSO);        \
+    }                                                                                             \
+    extern "C" ULONG arr_BuscarUnico##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F)) noexcept \
+    {                                                                                             \
+        return FamiliaEscalar<TAG>::busca(array, valor, ARR_IGUALDAD_DE_##COMPARA, CIERTO);       \
+    }                                                                                             \
+    extern "C" BOOL arr_Existe##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),               \
+                                  ULONG *posicion) noexcept                                       \
+    {                                                                                             \
+        return FamiliaEscalar<TAG>::existe(array, valor, ARR_IGUALDAD_DE_##COMPARA, posicion,     \
+                                           FALSO);                                                \
+    }                                                                                             \
+    extern "C" BOOL arr_ExisteUnico##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),          \
+                                       ULONG *posicion) noexcept                                  \
+    {                                                                                             \
+        return FamiliaEscalar<TAG>::existe(array, valor, ARR_IGUALDAD_DE_##COMPARA, posicion,     \
+                                           CIERTO);                                               \
+    }                                                                                             \
+    extern "C" void arr_QSort##F(ARRAY *array, arr_orden_##F comparador) noexcept                 \
+    {                                                                                             \
+        FamiliaEscalar<TAG>::ordena(array, comparador);                                           \
+    }                                                                                             \
+    extern "C" BOOL arr_SonIguales##F(ARRAY *array1,                                              \
+                                      ARRAY *array2 ARR_IGUALES_CON_##COMPARA(F)) noexcept        \
+    {                                                                                             \
+        return FamiliaEscalar<TAG>::son_iguales(array1, array2, ARR_IGUALES_DE_##COMPARA);        \
     }                                                                                             \
     RECORRE(extern "C" void arr_nousar_Recorre##F(ARRAY *array, arr_accion_##F accion,            \
                                                   void *datos, const char *ubicacion,             \

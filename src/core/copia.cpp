@@ -1,0 +1,181 @@
+// Whole-array operations: a copy that keeps the source's row layout, concatenation, and
+// reversal in place or into a new array.
+#include "core/comparadores.h"
+
+#include "services/cadenas.h"
+#include "services/informes.h"
+#include "services/memoria.h"
+
+#include <vector>
+
+namespace {
+
+constexpr const char *UBICACION = UBICACION_ARRAYPRV;
+
+void *copia_cadena(const void *cadena) { return cad_copia_cadena(static_cast<const char *>(cadena)); }
+
+void *copia_cadena_ancha(const void *cadena)
+{
+    return widestr_fun_copia(static_cast<const WCHAR *>(cadena));
+}
+
+template <typename T> T *copia_tabla(const T *origen, size_t num)
+{
+    T *tabla = static_cast<T *>(zarpspy_nousar_calloc(num, sizeof(T)));
+    std::memcpy(tabla, origen, num * sizeof(T));
+    return tabla;
+}
+
+// Appends a copy of each string of org to dest (the action of the string concatenation).
+BOOL anyade_copia_cadena(char **cadena, void *dest)
+{
+    char *copia = cad_copia_cadena(*cadena);
+    if (arrayprv_append(static_cast<ARRAY *>(dest), &copia, elem_CADENA_NO_USAR) == 0)
+        zarpstr_destruye(&copia);
+    return CIERTO;
+}
+
+BOOL anyade_copia_cadena_ancha(WCHAR **cadena, void *dest)
+{
+    WCHAR *copia = widestr_fun_copia(*cadena);
+    if (arrayprv_append(static_cast<ARRAY *>(dest), &copia, elem_CADENA_U_NO_USAR) == 0)
+        widestr_nousar_destruye(&copia, UBICACION, __LINE__);
+    return CIERTO;
+}
+
+bool entrada_concatena(const ARRAY *dest, const ARRAY *org)
+{
+    if (arrayprv_es_modo_comprobacion()) {
+        arrayprv_comprueba_array(org, 0);
+        arrayprv_comprueba_array(dest, 1);
+        return org != nullptr && dest != nullptr && org->mascara_debug == MASCARA_DEBUG &&
+               dest->mascara_debug == MASCARA_DEBUG;
+    }
+    const bool punteros = ARR_EXIGE(org != nullptr, "(org) != NULL") &
+                          ARR_EXIGE(dest != nullptr, "(dest) != NULL");
+    if (!punteros)
+        return false;
+    const bool vivos =
+        ARR_EXIGE(dest->mascara_debug == MASCARA_DEBUG, "dest->mascara_debug == MASCARA_DEBUG") &
+        ARR_EXIGE(org->mascara_debug == MASCARA_DEBUG, "org->mascara_debug == MASCARA_DEBUG");
+    if (!vivos)
+        return false;
+    ARR_EXIGE(dest->en_bucle == FALSO, "dest->en_bucle == FALSO");
+    ARR_EXIGE(dest->en_bucle_lectura == FALSO, "dest->en_bucle_lectura == FALSO");
+    return true;
+}
+
+} // namespace
+
+ARRAY *arrayprv_copia(const ARRAY *array, funcion_copia copia)
+{
+    if (!arrayprv_entrada(array, TEXTOS_ARRAY, false, Modo::leniente))
+        return nullptr;
+    ARR_EXIGE(array->tipo_elem != elem_antiguo_PUNTO3DX, "array->tipo_elem != elem_antiguo_PUNTO3DX");
+    if (array->tipo_elem == elem_CADENA_NO_USAR)
+        copia = copia_cadena;
+    else if (array->tipo_elem == elem_CADENA_U_NO_USAR)
+        copia = copia_cadena_ancha;
+    if (array->size_elem != sizeof(void *)) // only pointer elements can be copied through it
+        copia = nullptr;
+
+    ARRAY *nuevo = static_cast<ARRAY *>(zarpspy_reserva_cabecera(sizeof(ARRAY)));
+    nuevo->tipo_elem = array->tipo_elem;
+    nuevo->long_max_fila_en_bytes = 0;
+    nuevo->size_elem = array->size_elem;
+    nuevo->num_elems = array->num_elems;
+    nuevo->num_filas = array->num_filas;
+    nuevo->long_max_fila_en_elem = array->long_max_fila_en_elem;
+    nuevo->num_bits = array->num_bits;
+    nuevo->buffer = nullptr;
+    nuevo->max_long_filas = nullptr;
+    nuevo->long_filas = nullptr;
+    nuevo->acumulado_filas = nullptr;
+    const size_t num_filas = array->num_filas;
+    if (num_filas > 0) {
+        nuevo->max_long_filas = copia_tabla(array->max_long_filas, num_filas);
+        nuevo->long_filas = copia_tabla(array->long_filas, num_filas);
+        nuevo->acumulado_filas = copia_tabla(array->acumulado_filas, num_filas);
+        nuevo->buffer = copia_tabla(array->buffer, num_filas);
+        for (size_t fila = 0; fila < num_filas; ++fila) {
+            const size_t capacidad = array->max_long_filas[fila];
+            char *destino = static_cast<char *>(zarpspy_nousar_calloc(capacidad, array->size_elem));
+            const char *origen = array->buffer[fila];
+            if (copia != nullptr) {
+                for (size_t pos = 0; pos < array->long_filas[fila]; ++pos) {
+                    void *valor;
+                    std::memcpy(&valor, origen + pos * sizeof valor, sizeof valor);
+                    valor = copia(valor);
+                    std::memcpy(destino + pos * sizeof valor, &valor, sizeof valor);
+                }
+            } else {
+                std::memcpy(destino, origen, capacidad * array->size_elem);
+            }
+            nuevo->buffer[fila] = destino;
+        }
+    }
+    nuevo->mascara_debug = MASCARA_DEBUG;
+    nuevo->en_bucle = FALSO;
+    nuevo->en_bucle_lectura = FALSO;
+    return nuevo;
+}
+
+void arrayprv_concatena(ARRAY *dest, const ARRAY *org)
+{
+    if (!entrada_concatena(dest, org))
+        return;
+    const bool compatibles =
+        ARR_EXIGE(org->tipo_elem == dest->tipo_elem, "org->tipo_elem == dest->tipo_elem") &
+        ARR_EXIGE(org->tipo_elem != elem_BIT_NO_USAR, "org->tipo_elem != elem_BIT_NO_USAR") &
+        ARR_EXIGE(org->tipo_elem != elem_PUNTERO_NO_USAR, "org->tipo_elem != elem_PUNTERO_NO_USAR");
+    // An array appended to itself would never reach the end of its growing count.
+    if (!compatibles || !ARR_EXIGE(dest != org, "dest != org") || org->num_elems == 0)
+        return;
+    fnc_accion acciones{};
+    acciones.fnc_accion_CADENA = anyade_copia_cadena;
+    acciones.fnc_accion_CADENA_U = anyade_copia_cadena_ancha;
+    switch (org->tipo_elem) {
+    case elem_CADENA_NO_USAR:
+    case elem_CADENA_U_NO_USAR:
+        arrayprv_recorre(const_cast<ARRAY *>(org), &acciones, dest, org->tipo_elem, 0, 0, UBICACION,
+                         __LINE__);
+        break;
+    default:
+        arrayprv_visita_todos(org, [&](const char *elemento) {
+            arrayprv_append(dest, elemento, org->tipo_elem);
+        });
+        break;
+    }
+}
+
+void arrayprv_invierte(ARRAY *array, tipo_elem_array tipo_elem)
+{
+    if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY, false, Modo::ninguno, tipo_elem))
+        return;
+    const ULONG n = static_cast<ULONG>(array->num_elems);
+    std::vector<char> primero(array->size_elem);
+    std::vector<char> segundo(array->size_elem);
+    // Invariant: elements before i and after n - 1 - i are already in their reversed places.
+    for (ULONG i = 0; i < n / 2; ++i) {
+        const void *a = arrayprv_get(array, i, tipo_elem);
+        const void *b = arrayprv_get(array, n - 1 - i, tipo_elem);
+        if (a == nullptr || b == nullptr)
+            return;
+        std::memcpy(primero.data(), a, primero.size());
+        std::memcpy(segundo.data(), b, segundo.size());
+        arrayprv_set(array, i, segundo.data(), tipo_elem);
+        arrayprv_set(array, n - 1 - i, primero.data(), tipo_elem);
+    }
+}
+
+ARRAY *arrayprv_invertida(const ARRAY *array, tipo_elem_array tipo_elem)
+{
+    if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY, false, Modo::ninguno, tipo_elem))
+        return nullptr;
+    const ULONG n = static_cast<ULONG>(array->num_elems);
+    ARRAY *nuevo = arrayprv_crea(n, tipo_elem, LONG_FILA_POR_DEFECTO);
+    for (ULONG i = 0; i < n; ++i)
+        if (const void *elemento = arrayprv_get(array, i, tipo_elem))
+            arrayprv_set(nuevo, n - 1 - i, elemento, tipo_elem);
+    return nuevo;
+}

@@ -225,6 +225,61 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
 
 ARR_FAMILIAS_ESCALARES(ARR_DECLARA_FAMILIA_ESCALAR)
 
+/* ---- The shared functions under the names of the other families ------------------------- */
+
+/* Each is the same function as arr_DestruyeDouble, arr_NumElemsDouble, ... above. */
+#define ARR_NOMBRES_DESTRUYE(X)                                                                   \
+    X(arr_DestruyeBIT) X(arr_DestruyeCADENA) X(arr_DestruyeCADENA_u)                              \
+    X(arr_DestruyePunteroConTipo) X(arr_DestruyePunto2D) X(arr_DestruyePunto3D)                   \
+    X(arulong_destruye) X(arulong64_destruye)
+#define ARR_NOMBRES_NUMELEMS(X)                                                                   \
+    X(arr_NumElemsBIT) X(arr_NumElemsCADENA) X(arr_NumElemsCADENA_u) X(arr_NumElemsPunto2D)       \
+    X(arr_NumElemsPunto3D) X(arulong_numelems) X(arulong64_numelems)
+#define ARR_NOMBRES_COPIA(X)                                                                      \
+    X(arr_CopiaBIT) X(arr_CopiaCADENA) X(arr_CopiaCADENA_u) X(arr_CopiaPunto2D)                   \
+    X(arr_CopiaPunto3D) X(arulong_copia) X(arulong64_copia)
+#define ARR_NOMBRES_CONCATENA(X)                                                                  \
+    X(arr_ConcatenaCADENA) X(arr_ConcatenaCADENA_u) X(arr_ConcatenaPunto2D)                       \
+    X(arr_ConcatenaPunto3D) X(arulong_concatena) X(arulong64_concatena)
+#define ARR_NOMBRES_AUMENTA(X)                                                                    \
+    X(arr_AumentaTamanyoBIT) X(arr_AumentaTamanyoCADENA_u)                                        \
+    X(arr_AumentaTamanyoEstructurasConTipo) X(arr_AumentaTamanyoPunto2D)                          \
+    X(arr_AumentaTamanyoPunto3D)
+#define ARR_NOMBRES_REDUCE(X)                                                                     \
+    X(arr_ReduceTamanyoBIT) X(arr_ReduceTamanyoCADENA) X(arr_ReduceTamanyoCADENA_u)               \
+    X(arr_ReduceTamanyoPunto2D) X(arr_ReduceTamanyoPunto3D) X(arulong_reduce_tamanyo)             \
+    X(arulong64_reduce_tamanyo)
+
+#define ARR_DECLARA_DESTRUYE(nombre) ARRAYS_API void nombre(ARRAY **array) ARR_NOEXCEPT;
+#define ARR_DECLARA_NUMELEMS(nombre) ARRAYS_API ULONG nombre(const ARRAY *array) ARR_NOEXCEPT;
+#define ARR_DECLARA_COPIA(nombre) ARRAYS_API ARRAY *nombre(const ARRAY *array) ARR_NOEXCEPT;
+#define ARR_DECLARA_CONCATENA(nombre)                                                             \
+    ARRAYS_API void nombre(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+#define ARR_DECLARA_TAMANYO(nombre)                                                               \
+    ARRAYS_API void nombre(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;
+ARR_NOMBRES_DESTRUYE(ARR_DECLARA_DESTRUYE)
+ARR_NOMBRES_NUMELEMS(ARR_DECLARA_NUMELEMS)
+ARR_NOMBRES_COPIA(ARR_DECLARA_COPIA)
+ARR_NOMBRES_CONCATENA(ARR_DECLARA_CONCATENA)
+ARR_NOMBRES_AUMENTA(ARR_DECLARA_TAMANYO)
+ARR_NOMBRES_REDUCE(ARR_DECLARA_TAMANYO)
+
+/* ---- Bit arrays --------------------------------------------------------------------------- */
+
+/* ---- The arulong and arulong64 names ------------------------------------------------------ */
+
+/* ---- Narrow and wide string arrays ---------------------------------------------------------- */
+
+/* ---- Typed pointer and structure arrays ----------------------------------------------------- */
+
+/* ---- 2D point arrays ------------------------------------------------------------------------ */
+
+/* ---- 2D points with private data ------------------------------------------------------------ */
+
+/* ---- 3D point arrays ------------------------------------------------------------------------ */
+
+/* ---- Plane geometry on 2D point arrays ------------------------------------------------------ */
+
 #ifdef __cplusplus
 }
 #endif

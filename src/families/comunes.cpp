@@ -38,3 +38,16 @@ extern "C" void arr_reduce_tamanyo_comun(ARRAY *array, ULONG nuevo_tamanyo) noex
     REDUCE(ARR_ALIAS(arr_ReduceTamanyo##F, arr_reduce_tamanyo_comun))
 
 ARR_FAMILIAS_ESCALARES(ARR_ALIAS_FAMILIA_ESCALAR)
+
+#define ARR_ALIAS_DESTRUYE(nombre) ARR_ALIAS(nombre, arr_destruye_comun)
+#define ARR_ALIAS_NUMELEMS(nombre) ARR_ALIAS(nombre, arr_num_elems_comun)
+#define ARR_ALIAS_COPIA(nombre) ARR_ALIAS(nombre, arr_copia_comun)
+#define ARR_ALIAS_CONCATENA(nombre) ARR_ALIAS(nombre, arr_concatena_comun)
+#define ARR_ALIAS_AUMENTA(nombre) ARR_ALIAS(nombre, arr_aumenta_tamanyo_comun)
+#define ARR_ALIAS_REDUCE(nombre) ARR_ALIAS(nombre, arr_reduce_tamanyo_comun)
+ARR_NOMBRES_DESTRUYE(ARR_ALIAS_DESTRUYE)
+ARR_NOMBRES_NUMELEMS(ARR_ALIAS_NUMELEMS)
+ARR_NOMBRES_COPIA(ARR_ALIAS_COPIA)
+ARR_NOMBRES_CONCATENA(ARR_ALIAS_CONCATENA)
+ARR_NOMBRES_AUMENTA(ARR_ALIAS_AUMENTA)
+ARR_NOMBRES_REDUCE(ARR_ALIAS_REDUCE)

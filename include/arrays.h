@@ -150,16 +150,13 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
  * One line per scalar family: its word in the export names, its C value type, its element
  * type tag, how its values compare (ARR_BOOLEANO: always exactly, no predicates; ARR_ENTERO: an
  * optional predicate in searches, exact equality of arrays; ARR_REAL: a predicate required in
- * searches and in equality of arrays), and which of the optional operations it has: AppendN,
- * AumentaTamanyo, ReduceTamanyo, Sumar, Sumatorio and the traversal arr_nousar_Recorre (ARR_SI /
- * ARR_NO; Sumar's column names the type of its delta, ARR_DELTA_SHORT, ARR_DELTA_LONG or
- * ARR_DELTA_LONG64). The gaps are deliberate. For a family F of value type T:
+ * searches and in equality of arrays), and which of the optional operations it has (ARR_SI /
+ * ARR_NO): AppendN, AumentaTamanyo, ReduceTamanyo and the traversal arr_nousar_Recorre.
+ * For a family F of value type T:
  *
  *   ARRAY *arr_CreaF(ULONG n)                    new array of n zero elements
  *   void   arr_AppendF(ARRAY *a, T v)            append v
- *   void   arr_AppendNFs(ARRAY *a, ULONG n, T v) append v n times (BOOL and Double report a
- *          count below 2 as "num_veces > 1", ULong and ULong64 a count of 0 as "num_veces > 0";
- *          either way v is then appended n times)
+ *   void   arr_AppendNFs(ARRAY *a, ULONG n, T v) append v n times
  *   void   arr_InsertarF(ARRAY *a, ULONG pos, T v)  insert v before pos (pos == count appends)
  *   void   arr_BorrarF(ARRAY *a, ULONG pos)      delete the element at pos
  *   T      arr_GetF(ARRAY *a, ULONG pos)         the element at pos
@@ -169,13 +166,8 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
  *   ULONG  arr_BuscarUnicoF(ARRAY *a, T v [, igualdad]) the same; a second match is reported
  *   BOOL   arr_ExisteF(ARRAY *a, T v [, igualdad], ULONG *pos)  found? pos (if not NULL) gets
  *          the position or ARR_ULONG_MAX; arr_ExisteUnicoF likewise
- *   void   arr_QSortF(ARRAY *a, arr_orden_F comparador)  sort in place; NULL: ascending (Char as
- *          signed 8-bit values; BOOL's default never answers "less", so it only partly orders)
+ *   void   arr_QSortF(ARRAY *a, arr_orden_F comparador)  sort in place; NULL: ascending
  *   BOOL   arr_SonIgualesF(ARRAY *a, ARRAY *b [, igualdad])  same count and equal elements
- *   void   arr_SumarF(ARRAY *a, ULONG pos, D delta)  adds delta to the element at pos, wrapping
- *          in the element's width; a sum not strictly inside the type's range is reported first
- *   T      arr_SumatorioF(const ARRAY *a)        the sum of the elements (unsigned families
- *          modulo 2^32 or 2^64, without a report)
  *   void   arr_nousar_RecorreF(ARRAY *a, accion, void *datos, const char *ubicacion, LONG linea)
  *          call accion(&element, datos) for every element in order; ubicacion and linea name
  *          the caller in a report of a traversal already running
@@ -190,11 +182,6 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
 #define ARR_SI(...) __VA_ARGS__
 #define ARR_NO(...)
 
-/* Sumar's column applied to a generator M and its arguments: M(delta type, arguments...). */
-#define ARR_DELTA_SHORT(M, ...) M(SHORT, __VA_ARGS__)
-#define ARR_DELTA_LONG(M, ...) M(LONG, __VA_ARGS__)
-#define ARR_DELTA_LONG64(M, ...) M(LONG64, __VA_ARGS__)
-
 /* The predicate parameter of searches and of array equality, by how a family compares. */
 #define ARR_BUSCA_CON_ARR_BOOLEANO(F)
 #define ARR_BUSCA_CON_ARR_ENTERO(F) , arr_igualdad_##F igualdad
@@ -203,37 +190,11 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
 #define ARR_IGUALES_CON_ARR_ENTERO(F)
 #define ARR_IGUALES_CON_ARR_REAL(F) , arr_igualdad_##F igualdad
 
-/*  family   value type  tag                   compares      AppendN Aumenta Reduce
- *                                                          Sumar             Sumatorio Recorre */
-#define ARR_FAMILIAS_ESCALARES(X)                                                                 \
-    X(BOOL, BOOL, elem_BOOL_NO_USAR, ARR_BOOLEANO, ARR_SI, ARR_SI, ARR_SI,                        \
-      ARR_NO, ARR_NO, ARR_SI)                                                                     \
-    X(BYTE, BYTE, elem_BYTE_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                          \
-      ARR_NO, ARR_NO, ARR_NO)                                                                     \
-    X(UChar, UCHAR, elem_UCHAR_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_SI,                       \
-      ARR_NO, ARR_NO, ARR_NO)                                                                     \
-    X(Char, char, elem_CHAR_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_NO,                          \
-      ARR_NO, ARR_NO, ARR_SI)                                                                     \
-    X(Short, SHORT, elem_SHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_NO,                       \
-      ARR_NO, ARR_NO, ARR_NO)                                                                     \
-    X(UShort, USHORT, elem_USHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
-      ARR_DELTA_SHORT, ARR_NO, ARR_SI)                                                            \
-    X(Long, LONG, elem_LONG_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                          \
-      ARR_DELTA_LONG, ARR_NO, ARR_NO)                                                             \
-    X(ULong, ULONG, elem_ULONG_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,                       \
-      ARR_DELTA_LONG, ARR_SI, ARR_SI)                                                             \
-    X(Long64, LONG64, elem_LONG64_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
-      ARR_DELTA_LONG64, ARR_NO, ARR_NO)                                                           \
-    X(ULong64, ULONG64, elem_ULONG64_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,                 \
-      ARR_DELTA_LONG64, ARR_SI, ARR_SI)                                                           \
-    X(Double, double, elem_DOUBLE_NO_USAR, ARR_REAL, ARR_SI, ARR_SI, ARR_SI,                      \
-      ARR_NO, ARR_SI, ARR_SI)
+/*   family  value type  tag                  compares   AppendN  Aumenta  Reduce  Recorre */
+#define ARR_FAMILIAS_ESCALARES(X) \
+    X(Double, double, elem_DOUBLE_NO_USAR, ARR_REAL, ARR_SI, ARR_SI, ARR_SI, ARR_SI)
 
-#define ARR_DECLARA_SUMAR(D, F)                                                                   \
-    ARRAYS_API void arr_Sumar##F(ARRAY *array, ULONG pos, D delta) ARR_NOEXCEPT;
-
-#define ARR_DECLARA_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, SUMAR,          \
-                                    SUMATORIO, RECORRE)                                           \
+#define ARR_DECLARA_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, RECORRE)        \
     typedef BOOL (*arr_accion_##F)(T * elemento, void *datos);                                    \
     typedef BOOL (*arr_igualdad_##F)(T a, T b);                                                   \
     typedef int (*arr_orden_##F)(T a, T b);                                                       \
@@ -259,39 +220,10 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
     ARRAYS_API void arr_Concatena##F(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;                 \
     AUMENTA(ARRAYS_API void arr_AumentaTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;) \
     REDUCE(ARRAYS_API void arr_ReduceTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;)   \
-    SUMAR(ARR_DECLARA_SUMAR, F)                                                                   \
-    SUMATORIO(ARRAYS_API T arr_Sumatorio##F(const ARRAY *array) ARR_NOEXCEPT;)                    \
     RECORRE(ARRAYS_API void arr_nousar_Recorre##F(ARRAY *array, arr_accion_##F accion, void *datos, \
                                                   const char *ubicacion, LONG linea) ARR_NOEXCEPT;)
 
 ARR_FAMILIAS_ESCALARES(ARR_DECLARA_FAMILIA_ESCALAR)
-
-/* Reverses the order of the elements in place (the values are not negated). */
-ARRAYS_API void arr_InvertirBOOL(ARRAY *array) ARR_NOEXCEPT;
-
-/* The smallest and the greatest element and their first positions, written through the pointers
- * that are not NULL. An empty array is reported ("array->num_elems > 0"); it, and an array of
- * NaNs only, give DBL_MAX, -DBL_MAX and ARR_ULONG_MAX for both positions. */
-ARRAYS_API void arr_MinimoMaximoDouble(const ARRAY *array, double *minimo, ULONG *pos_minimo,
-                                       double *maximo, ULONG *pos_maximo) ARR_NOEXCEPT;
-
-/* TRUE when both arrays have the same count and no pair of elements at the same position
- * differs by more than `tolerancia` (a NaN difference counts as equal). */
-ARRAYS_API BOOL arr_SonIgualesDoubleConTolerancia(const ARRAY *array1, const ARRAY *array2,
-                                                  double tolerancia) ARR_NOEXCEPT;
-/* The same for two pointer arrays (arr_CreaPunteroConTipo) whose elements are Double arrays,
- * compared pair by pair up to the first unequal pair. */
-ARRAYS_API BOOL arr_SonIgualesArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
-                                                               const ARRAY *array2,
-                                                               double tolerancia) ARR_NOEXCEPT;
-/* The same one level deeper: pointer arrays whose elements are such pointer arrays. */
-ARRAYS_API BOOL arr_SonIgualesArrArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
-                                                                  const ARRAY *array2,
-                                                                  double tolerancia) ARR_NOEXCEPT;
-
-/* Turns every price of a Double array from pesetas into euros (divided by 166.386), rounded to
- * two decimals. */
-ARRAYS_API void arr_cambio_precio_pesetas_a_euros(ARRAY *array) ARR_NOEXCEPT;
 
 /* ---- The shared functions under the names of the other families ------------------------- */
 
@@ -334,66 +266,7 @@ ARR_NOMBRES_REDUCE(ARR_DECLARA_TAMANYO)
 
 /* ---- Bit arrays --------------------------------------------------------------------------- */
 
-/*
- * Arrays of single bits, packed eight to a byte: bit pos is bit pos % 8 (from the least
- * significant) of byte pos / 8. A bit is passed as a BOOL (any non-zero value sets it) and read
- * back as 1 or 0. arr_NumElemsBIT counts bits. Destruction, count, copy, growth and shrinking
- * are the shared functions (arr_DestruyeBIT, arr_NumElemsBIT, arr_CopiaBIT,
- * arr_AumentaTamanyoBIT, arr_ReduceTamanyoBIT); bits have no insert, delete, search, sort,
- * comparison or concatenation.
- */
-
-/* A new array of n false bits. */
-ARRAYS_API ARRAY *arr_CreaBIT(ULONG n) ARR_NOEXCEPT;
-/* The bit at pos: 1 or 0. A pos not below the bit count is reported ("pos < array->num_bits");
- * the byte that would hold it is still read when it exists. */
-ARRAYS_API BOOL arr_GetBIT(const ARRAY *array, ULONG pos) ARR_NOEXCEPT;
-/* Sets the bit at pos for a non-zero valor, clears it for FALSO; pos as in arr_GetBIT. */
-ARRAYS_API void arr_SetBIT(ARRAY *array, ULONG pos, BOOL valor) ARR_NOEXCEPT;
-/* Appends one bit. */
-ARRAYS_API void arr_AppendBIT(ARRAY *array, BOOL valor) ARR_NOEXCEPT;
-/* Sets every bit (whole bytes, so also the spare bits of the last byte) to valor. */
-ARRAYS_API void arr_InicializaBIT(ARRAY *array, BOOL valor) ARR_NOEXCEPT;
-
 /* ---- The arulong and arulong64 names ------------------------------------------------------ */
-
-/*
- * The ULong and ULong64 families under second, lower-case names: arulong_ for ULong arrays and
- * arulong64_ for ULong64 arrays. An array made under either set of names may be used with the
- * other. Besides the shared arulong_destruye, arulong_numelems, arulong_copia,
- * arulong_concatena and arulong_reduce_tamanyo (above), each name below is the very same function
- * as its arr_ twin, X(second name, arr_ name), except arulong_crea and arulong_append_n.
- */
-#define ARR_NOMBRES_ARULONG(X, P, F)                                                              \
-    X(P##_append, arr_Append##F) X(P##_inserta, arr_Insertar##F) X(P##_borra, arr_Borrar##F)      \
-    X(P##_get, arr_Get##F) X(P##_set, arr_Set##F) X(P##_busca, arr_Buscar##F)                     \
-    X(P##_busca_unico, arr_BuscarUnico##F) X(P##_existe, arr_Existe##F)                           \
-    X(P##_existe_unico, arr_ExisteUnico##F) X(P##_qsort, arr_QSort##F)                            \
-    X(P##_iguales, arr_SonIguales##F)
-
-/* The second names P of the family F of value type T. */
-#define ARR_DECLARA_ARULONG(P, F, T)                                                              \
-    /* A new empty array, as arr_CreaF(0). */                                                     \
-    ARRAYS_API ARRAY *P##_crea(void) ARR_NOEXCEPT;                                                \
-    /* Appends valor num_valores times; a count below 2 is reported ("num_valores > 1"). */       \
-    ARRAYS_API void P##_append_n(ARRAY *array, ULONG num_valores, T valor) ARR_NOEXCEPT;          \
-    ARRAYS_API void P##_append(ARRAY *array, T valor) ARR_NOEXCEPT;                               \
-    ARRAYS_API void P##_inserta(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;                   \
-    ARRAYS_API void P##_borra(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                              \
-    ARRAYS_API T P##_get(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                                   \
-    ARRAYS_API void P##_set(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;                       \
-    ARRAYS_API ULONG P##_busca(ARRAY *array, T valor, arr_igualdad_##F igualdad) ARR_NOEXCEPT;    \
-    ARRAYS_API ULONG P##_busca_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad)            \
-        ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API BOOL P##_existe(ARRAY *array, T valor, arr_igualdad_##F igualdad, ULONG *posicion) \
-        ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API BOOL P##_existe_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad,            \
-                                     ULONG *posicion) ARR_NOEXCEPT;                               \
-    ARRAYS_API void P##_qsort(ARRAY *array, arr_orden_##F comparador) ARR_NOEXCEPT;               \
-    ARRAYS_API BOOL P##_iguales(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
-
-ARR_DECLARA_ARULONG(arulong, ULong, ULONG)
-ARR_DECLARA_ARULONG(arulong64, ULong64, ULONG64)
 
 /* ---- Narrow and wide string arrays ---------------------------------------------------------- */
 
@@ -535,471 +408,14 @@ ARR_DECLARA_FAMILIA_CADENA(_u, WCHAR)
 ARRAYS_API ULONG arr_AumentaTamanyoCADENA(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;
 
 /* ---- Typed pointer and structure arrays ----------------------------------------------------- */
-/*
- * Arrays whose elements are untyped pointers to the caller's own data (tag elem_PUNTERO_NO_USAR).
- * Used as plain pointer arrays (the Puntero functions never free what the elements point to) or
- * as owning structure arrays (the Estructura functions free through the caller's `libera` and
- * copy through the caller's copy function). The Array forms work on an array of arrays: a
- * pointer array whose elements are structure arrays. A NULL element is allowed everywhere.
- * A plain pointer array must be emptied, or its elements set to NULL, before
- * arr_DestruyePunteroConTipo, which reports every pointer still set ("ptr == NULL").
- * The Const forms do the same as their plain twins, for callers holding pointers to constant data.
- * Shared with every family (declared above): arr_DestruyePunteroConTipo (destroy, pointers must
- * be NULL) and arr_AumentaTamanyoEstructurasConTipo (grow; new elements are NULL).
- */
-
-/* Equality of a search: the element (stored pointer) against the caller's datum; non-zero if equal. */
-typedef BOOL (*arr_igualdad_PunteroConTipo)(const void *elemento, const void *dato);
-/* Order of the sort (two elements) and of the bisection (element, datum): comparac_*. */
-typedef int (*arr_orden_PunteroConTipo)(const void *a, const void *b);
-/* Frees the structure in the slot (which may hold NULL) and sets the slot to NULL. */
-typedef void (*arr_libera_EstructuraConTipo)(void **elemento);
-/* A new structure equal to the element (which may be NULL), owned by the receiving array. */
-typedef void *(*arr_copia_EstructuraConTipo)(const void *elemento);
-/* Actions of the traversals: the stored pointer; its address and the caller's datos; the stored
- * pointer and datos. The BOOL result is ignored. */
-typedef void (*arr_opera_PunteroConTipo)(void *elemento);
-typedef BOOL (*arr_accion_PunteroConTipo)(void **elemento, void *datos);
-typedef void (*arr_accion_EstructuraSimpleConTipo)(void *elemento, void *datos);
-
-/* A pointer array of n NULL elements in rows of long_fila_en_bytes bytes (a row holds
- * long_fila_en_bytes / 8 pointers, which must be above 0); arr_CreaPunteroConTipo uses 2048. */
-ARRAYS_API ARRAY *arr_CreaPunteroConTipoEx(ULONG n, ULONG long_fila_en_bytes) ARR_NOEXCEPT;
-ARRAYS_API ARRAY *arr_CreaPunteroConTipo(ULONG n) ARR_NOEXCEPT;
-
-/* Destroys a structure array: calls libera (if not NULL) on every slot in order, NULL slots
- * included, then frees the array and sets *array to NULL. The Const form frees no structure. */
-ARRAYS_API void arr_DestruyeEstructurasConTipo(ARRAY **array,
-                                               arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
-ARRAYS_API void arr_DestruyeEstructurasConstConTipo(ARRAY **array) ARR_NOEXCEPT;
-/* Destroys an array of arrays: each non-NULL inner array with arr_DestruyeEstructurasConTipo and
- * libera (the Const form: with no libera), then the outer array. */
-ARRAYS_API void arr_DestruyeEstructurasArrayConTipo(ARRAY **array_de_arrays,
-                                                    arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
-ARRAYS_API void arr_DestruyeEstructurasConstArrayConTipo(ARRAY **array_de_arrays) ARR_NOEXCEPT;
-
-/* Append, insert before pos (pos == count appends) and overwrite at pos; an overwritten pointer
- * is not freed. */
-ARRAYS_API void arr_AppendPunteroConTipo(ARRAY *array, void *puntero) ARR_NOEXCEPT;
-ARRAYS_API void arr_AppendPunteroConstConTipo(ARRAY *array, const void *puntero) ARR_NOEXCEPT;
-ARRAYS_API void arr_InsertarPunteroConTipo(ARRAY *array, ULONG pos, void *puntero) ARR_NOEXCEPT;
-ARRAYS_API void arr_InsertarPunteroConstConTipo(ARRAY *array, ULONG pos,
-                                                const void *puntero) ARR_NOEXCEPT;
-ARRAYS_API void arr_SetPunteroConTipo(ARRAY *array, ULONG pos, void *puntero) ARR_NOEXCEPT;
-ARRAYS_API void arr_SetPunteroConstConTipo(ARRAY *array, ULONG pos, const void *puntero) ARR_NOEXCEPT;
-/* Stores an inner array at pos of an array of arrays (arr_SetPunteroConstConTipo). */
-ARRAYS_API void arr_SetPunteroConstArrayConTipo(ARRAY *array_de_arrays, ULONG pos,
-                                                const ARRAY *array) ARR_NOEXCEPT;
-/* The pointer stored at pos; NULL when there is no such element. */
-ARRAYS_API void *arr_GetPunteroConTipo(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
-/* Removes the element at pos without freeing it (one function under both names). */
-ARRAYS_API void arr_BorrarPuntero(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
-ARRAYS_API void arr_BorrarPunteroConst(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
-/* Frees the structure at pos through libera (required), then removes the element. */
-ARRAYS_API void arr_BorrarEstructuraConTipo(ARRAY *array, ULONG pos,
-                                            arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
-/* Destroys the inner array at pos with arr_DestruyeEstructurasConTipo and libera (required),
- * then removes the element. */
-ARRAYS_API void arr_BorrarEstructuraArrayConTipo(ARRAY *array_de_arrays, ULONG pos,
-                                                 arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
-
-/* Shrinks to nuevo_tamanyo (at most the count): libera (if not NULL) is called on every slot cut
- * off; the Const form frees nothing. */
-ARRAYS_API void arr_ReduceTamanyoEstructurasConTipo(ARRAY *array, ULONG nuevo_tamanyo,
-                                                    arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
-ARRAYS_API void arr_ReduceTamanyoEstructurasConTipoConst(ARRAY *array,
-                                                         ULONG nuevo_tamanyo) ARR_NOEXCEPT;
-/* Shrinks an array of arrays: destroys each non-NULL inner array cut off, with libera. */
-ARRAYS_API void arr_ReduceEstructurasArrayConTipo(ARRAY *array_de_arrays, ULONG nuevo_tamanyo,
-                                                  arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
-
-/* Position of the first element that is the same pointer (identity, never content), or
- * ARR_ULONG_MAX. */
-ARRAYS_API ULONG arr_BuscarPunteroConTipo(ARRAY *array, const void *puntero) ARR_NOEXCEPT;
-/* Position of the first element from 0 (from pos_inicial) for which igualdad(element, dato)
- * holds, or ARR_ULONG_MAX. The Unica forms report a second match and yield the last one. */
-ARRAYS_API ULONG arr_BuscarEstructuraConTipo(ARRAY *array, const void *dato,
-                                             arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-ARRAYS_API ULONG arr_BuscarSiguienteEstructuraConTipo(ARRAY *array, ULONG pos_inicial,
-                                                      const void *dato,
-                                                      arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-ARRAYS_API ULONG arr_BuscarUnicaEstructuraConTipo(ARRAY *array, const void *dato,
-                                                  arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-/* Found? posicion (if not NULL) gets the position or ARR_ULONG_MAX. */
-ARRAYS_API BOOL arr_ExisteEstructuraConTipo(ARRAY *array, const void *dato,
-                                            arr_igualdad_PunteroConTipo igualdad,
-                                            ULONG *posicion) ARR_NOEXCEPT;
-ARRAYS_API BOOL arr_ExisteUnicaEstructuraConTipo(ARRAY *array, const void *dato,
-                                                 arr_igualdad_PunteroConTipo igualdad,
-                                                 ULONG *posicion) ARR_NOEXCEPT;
-/* The element of the unique match (one function under both names); a missing match is
- * reported ("posicion != ULONG_MAX") and yields NULL. */
-ARRAYS_API void *nousar_arr_dame_unica_estructura(ARRAY *array, const void *dato,
-                                                  arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-ARRAYS_API void *nousar_arr_dame_unica_estructura_const(ARRAY *array, const void *dato,
-                                                        arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-
-/* Sorts in place with compara (required from 2 elements on); fewer than 2 elements: nothing. */
-ARRAYS_API void arr_QSortPunteroConTipo(ARRAY *array, arr_orden_PunteroConTipo compara) ARR_NOEXCEPT;
-ARRAYS_API void arr_QSortPunteroConTipoConst(ARRAY *array,
-                                             arr_orden_PunteroConTipo compara) ARR_NOEXCEPT;
-/* Same count and igualdad(element of array1, element of array2) at every position. */
-ARRAYS_API BOOL arr_SonIgualesPunteroConTipo(ARRAY *array1, ARRAY *array2,
-                                             arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-/* Same count and arr_SonIgualesPunteroConTipo of every pair of inner arrays. */
-ARRAYS_API BOOL arr_SonIgualesEstructurasArrayConTipo(ARRAY *array1, ARRAY *array2,
-                                                      arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-
-/* A new array whose elements are copia(element) (copia NULL: the same pointers). */
-ARRAYS_API ARRAY *arr_CopiaEstructurasConTipo(const ARRAY *array,
-                                              arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
-/* A new array of arrays of the same count: the copy of each inner array, NULL where it is NULL. */
-ARRAYS_API ARRAY *arr_CopiaEstructurasArrayConTipo(const ARRAY *array_de_arrays,
-                                                   arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
-/* Appends to dest copia(element) (copia NULL or the Const form: the element itself) of every
- * element of org, which is marked as being read meanwhile; ubicacion and linea name the caller
- * in a report of a traversal of org already running. */
-ARRAYS_API void arr_ConcatenaEstructurasConTipo(ARRAY *dest, ARRAY *org,
-                                                arr_copia_EstructuraConTipo copia,
-                                                const char *ubicacion, LONG linea) ARR_NOEXCEPT;
-ARRAYS_API void arr_ConcatenaEstructurasConTipoConst(ARRAY *dest, ARRAY *org, const char *ubicacion,
-                                                     LONG linea) ARR_NOEXCEPT;
-/* Appends to dest a copy of each non-NULL inner array of org (NULL ones are skipped). */
-ARRAYS_API void arr_ConcatenaEstructurasArrayConTipo(ARRAY *dest, ARRAY *org_de_arrays,
-                                                     arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
-/* Reverses the order of the elements in place. */
-ARRAYS_API void arr_nousar_InvierteOrdenPunteroConTipo(ARRAY *array) ARR_NOEXCEPT;
-
-/* Traversals in position order with the array marked busy: accion(stored pointer);
- * accion(&element, datos) (ubicacion and linea name the caller in a report of a traversal
- * already running); accion(stored pointer, datos). */
-ARRAYS_API void arr_RecorrePunteroConTipo(ARRAY *array, arr_opera_PunteroConTipo accion) ARR_NOEXCEPT;
-ARRAYS_API void arr_RecorreEstructuraConTipo(ARRAY *array, arr_accion_PunteroConTipo accion,
-                                             void *datos, const char *ubicacion,
-                                             LONG linea) ARR_NOEXCEPT;
-ARRAYS_API void arr_RecorreEstructuraSimpleConTipo(ARRAY *array,
-                                                   arr_accion_EstructuraSimpleConTipo accion,
-                                                   void *datos) ARR_NOEXCEPT;
-
-/*
- * Ordered search by bisection over an array kept in ascending order under compara(element,
- * datum). An equal element "hit" is the first element if equal, else the last if equal, else the
- * one a midpoint lands on first. Comparison results inconsistent with a sorted array are
- * reported; positions stay between 0 and the count.
- */
-/* Where dato goes: the hit, else the first greater element, else the count. ARR_ULONG_MAX when
- * the array or compara cannot be used. */
-ARRAYS_API ULONG arr_DamePosicionInsercionPunteroOrdenadoDicotomicamenteConTipo(
-    ARRAY *array, arr_orden_PunteroConTipo compara, const void *dato) ARR_NOEXCEPT;
-/* Inserts dato at that position, even when an equal element exists. */
-ARRAYS_API void arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(
-    ARRAY *array, arr_orden_PunteroConTipo compara, void *dato) ARR_NOEXCEPT;
-/* Inserts dato only when no equal element was hit; *encontrado (if not NULL) says whether one was. */
-ARRAYS_API void arr_nousar_InsertarPunteroOrdenadoDicotomicamente_SiNoExiste(
-    ARRAY *array, arr_orden_PunteroConTipo compara, void *dato, BOOL *encontrado) ARR_NOEXCEPT;
-/* First and last positions of the run of elements equal to dato, or ARR_ULONG_MAX to both. */
-ARRAYS_API void arr_BuscarEstructuraDicotomicamenteConTipo(
-    ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, ULONG *posPrimerEncontrado,
-    ULONG *posUltimoEncontrado) ARR_NOEXCEPT;
-/* TRUE when such a run exists; only then are the positions written, through the non-NULL pointers. */
-ARRAYS_API BOOL arr_ExisteEstructuraDicotomicamenteConTipo(
-    ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, ULONG *posPrimerEncontrado,
-    ULONG *posUltimoEncontrado) ARR_NOEXCEPT;
 
 /* ---- 2D point arrays ------------------------------------------------------------------------ */
-/* A 2D point is x, y (two doubles). Searches and whole-array equality take a predicate, sorting
- * takes an ordering comparator (comparac_PRIMERO_MENOR, comparac_IGUALES, comparac_PRIMERO_MAYOR);
- * neither has a default. arr_GetPunto2D, arr_SetPunto2D, arr_BorrarPunto2D,
- * arr_ArraysDePunto2DIguales, arr_GetMinimaxPunto2D and arr_GetSegmentoPunto2D accept a 2D point
- * array with private data as well. arr_DestruyePunto2D, arr_NumElemsPunto2D, arr_CopiaPunto2D,
- * arr_ConcatenaPunto2D, arr_AumentaTamanyoPunto2D and arr_ReduceTamanyoPunto2D are the shared
- * functions above. */
-typedef BOOL (*arr_igualdad_Punto2D)(double x1, double y1, double x2, double y2);
-typedef int (*arr_orden_Punto2D)(double x1, double y1, double x2, double y2);
-typedef BOOL (*arr_accion_Punto2D)(double *x, double *y, void *datos);
-
-/* New array of n points (0, 0). */
-ARRAYS_API ARRAY *arr_CreaPunto2D(ULONG tamanyo_inicial) ARR_NOEXCEPT;
-/* Appends the point (x, y). */
-ARRAYS_API void arr_AppendPunto2D(ARRAY *array, double x, double y) ARR_NOEXCEPT;
-/* Inserts (x, y) before pos (pos == count appends). */
-ARRAYS_API void arr_InsertarPunto2D(ARRAY *array, ULONG pos, double x, double y) ARR_NOEXCEPT;
-/* Sets every point to (x, y). */
-ARRAYS_API void arr_InicializaPunto2D(ARRAY *array, double x, double y) ARR_NOEXCEPT;
-/* The point at pos into *x and *y (either may be NULL; with both NULL only checks that the point
- * exists). Also reads a point of a private-data array. */
-ARRAYS_API void arr_GetPunto2D(const ARRAY *array, ULONG pos, double *x, double *y) ARR_NOEXCEPT;
-/* Overwrites the point at pos; on a private-data array its data becomes NULL (the old data is
- * not released). Does not refuse an array inside a traversal. */
-ARRAYS_API void arr_SetPunto2D(ARRAY *array, ULONG pos, double x, double y) ARR_NOEXCEPT;
-/* Deletes the point at pos, of either kind of 2D point array (private data is not released). */
-ARRAYS_API void arr_BorrarPunto2D(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
-/* First position whose point matches (x, y) by the predicate, or ARR_ULONG_MAX. */
-ARRAYS_API ULONG arr_BuscarPunto2D(ARRAY *array, double x, double y,
-                                   arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
-/* The same; a second match is reported and the last match is the result. */
-ARRAYS_API ULONG arr_BuscarUnicoPunto2D(ARRAY *array, double x, double y,
-                                        arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
-/* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
-ARRAYS_API BOOL arr_ExistePunto2D(ARRAY *array, double x, double y, arr_igualdad_Punto2D igualdad,
-                                  ULONG *posicion) ARR_NOEXCEPT;
-ARRAYS_API BOOL arr_ExisteUnicoPunto2D(ARRAY *array, double x, double y,
-                                       arr_igualdad_Punto2D igualdad, ULONG *posicion) ARR_NOEXCEPT;
-/* Sorts in place by the comparator. */
-ARRAYS_API void arr_QSortPunto2D(ARRAY *array, arr_orden_Punto2D comparador) ARR_NOEXCEPT;
-/* Same count and every pair of points equal by the predicate. */
-ARRAYS_API BOOL arr_SonIgualesPunto2D(ARRAY *array1, ARRAY *array2,
-                                      arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
-/* Same count and, point by point, |x1 - x2| <= tolerancia and |y1 - y2| <= tolerancia (a square
- * per coordinate, not a distance). Either array may carry private data. */
-ARRAYS_API BOOL arr_ArraysDePunto2DIguales(const ARRAY *array1, const ARRAY *array2,
-                                           double tolerancia) ARR_NOEXCEPT;
-/* array1 and array2 are typed pointer arrays whose elements are 2D point arrays: same count
- * and the point arrays at each position equal by arr_ArraysDePunto2DIguales. */
-ARRAYS_API BOOL arr_SonIgualesArrPunteroArrPunto2DConTolerancia(const ARRAY *array1,
-                                                                const ARRAY *array2,
-                                                                double tolerancia) ARR_NOEXCEPT;
-/* Calls accion(&x, &y, datos) for every point in order; ubicacion and linea name the caller in
- * a report of a traversal already running. */
-ARRAYS_API void arr_nousar_RecorrePunto2D(ARRAY *array, arr_accion_Punto2D accion, void *datos,
-                                          const char *ubicacion, LONG linea) ARR_NOEXCEPT;
-/* Moves every point by (dx, dy). */
-ARRAYS_API void arr_MoverPunto2D(ARRAY *array, double dx, double dy) ARR_NOEXCEPT;
-/* Multiplies both coordinates of every point by factor. */
-ARRAYS_API void arr_MultiplicarPunto2D(ARRAY *array, double factor) ARR_NOEXCEPT;
-/* Turns every point about (xc, yc) CLOCKWISE by the angle whose sine and cosine are given. */
-ARRAYS_API void arr_Girar_en_sentido_horirario_seno_y_cosenoPunto2D(ARRAY *array, double xc,
-                                                                    double yc, double seno,
-                                                                    double coseno) ARR_NOEXCEPT;
-/* Turns every point about (xc, yc) by angulo radians, counter-clockwise when positive; an angle
- * of magnitude 1e-5 or less changes nothing. */
-ARRAYS_API void arr_GirarPunto2D(ARRAY *array, double xc, double yc, double angulo) ARR_NOEXCEPT;
-/* Bounding box into the pointers that are not NULL; the array must not be empty. */
-ARRAYS_API void arr_GetMinimaxPunto2D(const ARRAY *array, double *xmin, double *ymin,
-                                      double *xmax, double *ymax) ARR_NOEXCEPT;
-/* Segment i of the closed polyline: point i and point i + 1, or point 0 after the last. */
-ARRAYS_API void arr_GetSegmentoPunto2D(const ARRAY *array, ULONG i, double *x1, double *y1,
-                                       double *x2, double *y2) ARR_NOEXCEPT;
-/* A new array with the points in reverse order; the argument is unchanged. */
-ARRAYS_API ARRAY *arr_InvertirPunto2D(const ARRAY *array) ARR_NOEXCEPT;
 
 /* ---- 2D points with private data ------------------------------------------------------------ */
-/* A point x, y carrying one pointer of the caller's private data, which the library never
- * dereferences: it is released only by the destroy function given to arr_DestruyePunto2DXPriv or
- * arr_ReduceTamanyoPunto2DXPriv (which must leave it NULL), copied only by the copy function
- * given to the copy and concatenation, and must be NULL when the array is destroyed or shrunk
- * otherwise. Use arr_NumElemsPunto2D for the count and arr_GetPunto2D / arr_SetPunto2D /
- * arr_BorrarPunto2D on these arrays too. */
-typedef BOOL (*arr_igualdad_Punto2DXPriv)(double x1, double y1, void *datos1, double x2,
-                                          double y2, void *datos2);
-typedef int (*arr_orden_Punto2DXPriv)(double x1, double y1, void *datos1, double x2, double y2,
-                                      void *datos2);
-typedef BOOL (*arr_accion_Punto2DXPriv)(double *x, double *y, void **datos_punto, void *datos);
-/* Returns the copy of a point's data. */
-typedef void *(*arr_copia_datos_Punto2DXPriv)(void *datos);
-/* Releases a point's data and sets *datos to NULL. */
-typedef void (*arr_destruye_datos_Punto2DXPriv)(void **datos);
-
-/* New array of n points (0, 0) with NULL data. */
-ARRAYS_API ARRAY *arr_CreaPunto2DXPriv(ULONG tamanyo_inicial) ARR_NOEXCEPT;
-/* Appends (x, y) with its data. */
-ARRAYS_API void arr_AppendPunto2DXPriv(ARRAY *array, double x, double y, void *datos) ARR_NOEXCEPT;
-/* Inserts (x, y, datos) before pos (pos == count appends). */
-ARRAYS_API void arr_InsertarPunto2DXPriv(ARRAY *array, ULONG pos, double x, double y,
-                                         void *datos) ARR_NOEXCEPT;
-/* The point at pos: x and y must not be NULL; datos may be. */
-ARRAYS_API void arr_GetPunto2DXPriv(const ARRAY *array, ULONG pos, double *x, double *y,
-                                    void **datos) ARR_NOEXCEPT;
-/* Overwrites the point at pos, data included; the old data is not released. */
-ARRAYS_API void arr_SetPunto2DXPriv(ARRAY *array, ULONG pos, double x, double y,
-                                    void *datos) ARR_NOEXCEPT;
-/* Deletes the point at pos; its data is not released. */
-ARRAYS_API void arr_BorrarPunto2DXPriv(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
-/* First position whose point matches (x, y, datos) by the predicate, or ARR_ULONG_MAX. */
-ARRAYS_API ULONG arr_BuscarPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
-                                        arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
-/* The same; a second match is reported and the last match is the result. */
-ARRAYS_API ULONG arr_BuscarUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
-                                             arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
-/* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
-ARRAYS_API BOOL arr_ExistePunto2DXPriv(ARRAY *array, double x, double y, void *datos,
-                                       arr_igualdad_Punto2DXPriv igualdad,
-                                       ULONG *posicion) ARR_NOEXCEPT;
-ARRAYS_API BOOL arr_ExisteUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
-                                            arr_igualdad_Punto2DXPriv igualdad,
-                                            ULONG *posicion) ARR_NOEXCEPT;
-/* Sorts in place by the comparator. */
-ARRAYS_API void arr_QSortPunto2DXPriv(ARRAY *array, arr_orden_Punto2DXPriv comparador) ARR_NOEXCEPT;
-/* Same count and every pair of points equal by the predicate. */
-ARRAYS_API BOOL arr_SonIgualesPunto2DXPriv(ARRAY *array1, ARRAY *array2,
-                                           arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
-/* Calls accion(&x, &y, &datos_punto, datos) for every point in order. */
-ARRAYS_API void arr_RecorrePunto2DXPriv(ARRAY *array, arr_accion_Punto2DXPriv accion,
-                                        void *datos) ARR_NOEXCEPT;
-/* Moves every point by (dx, dy). */
-ARRAYS_API void arr_MoverPunto2DXPriv(ARRAY *array, double dx, double dy) ARR_NOEXCEPT;
-/* Multiplies both coordinates of every point by factor. */
-ARRAYS_API void arr_MultiplicarPunto2DXPriv(ARRAY *array, double factor) ARR_NOEXCEPT;
-/* Turns every point about (xc, yc) COUNTER-CLOCKWISE by the angle whose sine and cosine are
- * given (the opposite sense of arr_Girar_en_sentido_horirario_seno_y_cosenoPunto2D). */
-ARRAYS_API void arr_Girar_seno_y_cosenoPunto2DXPriv(ARRAY *array, double xc, double yc,
-                                                    double seno, double coseno) ARR_NOEXCEPT;
-/* Turns every point about (xc, yc) by angulo radians, counter-clockwise when positive; an angle
- * of magnitude 1e-5 or less changes nothing. */
-ARRAYS_API void arr_GirarPunto2DXPriv(ARRAY *array, double xc, double yc,
-                                      double angulo) ARR_NOEXCEPT;
-/* A new array with the points in reverse order and NULL data; every point with data is
- * reported, as such arrays are not meant to be reversed. */
-ARRAYS_API ARRAY *arr_InvertirPunto2DXPriv(const ARRAY *array) ARR_NOEXCEPT;
-/* TRUE when some point has data that is not NULL. */
-ARRAYS_API BOOL arr_TieneDatosExtrasAlgunPunto2DXPriv(ARRAY *array) ARR_NOEXCEPT;
-/* Applies destruye (when not NULL) to every point's data, then destroys the array and sets
- * *array to NULL. */
-ARRAYS_API void arr_DestruyePunto2DXPriv(ARRAY **array,
-                                         arr_destruye_datos_Punto2DXPriv destruye) ARR_NOEXCEPT;
-/* Shrinks to nuevo_tamanyo points, applying destruye (when not NULL) to the data of the points
- * cut off. */
-ARRAYS_API void arr_ReduceTamanyoPunto2DXPriv(ARRAY *array, ULONG nuevo_tamanyo,
-                                              arr_destruye_datos_Punto2DXPriv destruye) ARR_NOEXCEPT;
-/* A new array with the points of array; each point's data is copia(datos), or the same pointer
- * when copia is NULL (then only one of the two arrays may release it). ubicacion and linea name
- * the caller in a report of a traversal already running. */
-ARRAYS_API ARRAY *arr_CopiaPunto2DXPriv_nousar(ARRAY *array, arr_copia_datos_Punto2DXPriv copia,
-                                               const char *ubicacion, LONG linea) ARR_NOEXCEPT;
-/* Appends org's points to dest, with data as in arr_CopiaPunto2DXPriv_nousar. */
-ARRAYS_API void arr_ConcatenaPunto2DXPriv_nousar(ARRAY *dest, ARRAY *org,
-                                                 arr_copia_datos_Punto2DXPriv copia,
-                                                 const char *ubicacion, LONG linea) ARR_NOEXCEPT;
 
 /* ---- 3D point arrays ------------------------------------------------------------------------ */
-/* A 3D point is x, y, z (three doubles). Searches and equality take a predicate, sorting an
- * ordering comparator; neither has a default. arr_DestruyePunto3D, arr_NumElemsPunto3D,
- * arr_CopiaPunto3D, arr_ConcatenaPunto3D, arr_AumentaTamanyoPunto3D and arr_ReduceTamanyoPunto3D
- * are the shared functions above. */
-typedef BOOL (*arr_igualdad_Punto3D)(double x1, double y1, double z1, double x2, double y2,
-                                     double z2);
-typedef int (*arr_orden_Punto3D)(double x1, double y1, double z1, double x2, double y2, double z2);
-typedef BOOL (*arr_accion_Punto3D)(double *x, double *y, double *z, void *datos);
-
-/* New array of n points (0, 0, 0). */
-ARRAYS_API ARRAY *arr_CreaPunto3D(ULONG tamanyo_inicial) ARR_NOEXCEPT;
-/* Appends (x, y, z). */
-ARRAYS_API void arr_AppendPunto3D(ARRAY *array, double x, double y, double z) ARR_NOEXCEPT;
-/* Inserts (x, y, z) before pos (pos == count appends). */
-ARRAYS_API void arr_InsertarPunto3D(ARRAY *array, ULONG pos, double x, double y,
-                                    double z) ARR_NOEXCEPT;
-/* The point at pos into the pointers that are not NULL (with all NULL only checks that it
- * exists). */
-ARRAYS_API void arr_GetPunto3D(const ARRAY *array, ULONG pos, double *x, double *y,
-                               double *z) ARR_NOEXCEPT;
-/* Overwrites the point at pos. */
-ARRAYS_API void arr_SetPunto3D(ARRAY *array, ULONG pos, double x, double y, double z) ARR_NOEXCEPT;
-/* Deletes the point at pos. */
-ARRAYS_API void arr_BorrarPunto3D(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
-/* First position whose point matches (x, y, z) by the predicate, or ARR_ULONG_MAX. */
-ARRAYS_API ULONG arr_BuscarPunto3D(ARRAY *array, double x, double y, double z,
-                                   arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
-/* The same; a second match is reported and the last match is the result. */
-ARRAYS_API ULONG arr_BuscarUnicoPunto3D(ARRAY *array, double x, double y, double z,
-                                        arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
-/* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
-ARRAYS_API BOOL arr_ExistePunto3D(ARRAY *array, double x, double y, double z,
-                                  arr_igualdad_Punto3D igualdad, ULONG *posicion) ARR_NOEXCEPT;
-ARRAYS_API BOOL arr_ExisteUnicoPunto3D(ARRAY *array, double x, double y, double z,
-                                       arr_igualdad_Punto3D igualdad, ULONG *posicion) ARR_NOEXCEPT;
-/* Sorts in place by the comparator. */
-ARRAYS_API void arr_QSortPunto3D(ARRAY *array, arr_orden_Punto3D comparador) ARR_NOEXCEPT;
-/* Same count and every pair of points equal by the predicate. */
-ARRAYS_API BOOL arr_SonIgualesPunto3D(ARRAY *array1, ARRAY *array2,
-                                      arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
-/* Same count and, point by point, no coordinate differing by more than tolerancia (a box per
- * coordinate, not a distance). */
-ARRAYS_API BOOL arr_SonIgualesPunto3DConTolerancia(const ARRAY *array1, const ARRAY *array2,
-                                                   double tolerancia) ARR_NOEXCEPT;
-/* A new array with the points in reverse order; the argument is unchanged. */
-ARRAYS_API ARRAY *arr_InvertirPunto3D(const ARRAY *array) ARR_NOEXCEPT;
-/* Calls accion(&x, &y, &z, datos) for every point in order; ubicacion and linea name the caller
- * in a report of a traversal already running. */
-ARRAYS_API void arr_nousar_RecorrePunto3D(ARRAY *array, arr_accion_Punto3D accion, void *datos,
-                                          const char *ubicacion, LONG linea) ARR_NOEXCEPT;
 
 /* ---- Plane geometry on 2D point arrays ------------------------------------------------------ */
-/* Arcs, ellipses and circles appended as polylines, and measures and edits of a polyline. Every
- * function works on a 2D point array of either kind (plain or with private data; generated points
- * get NULL data). Angles are radians, counter-clockwise from the positive x axis. sentido 0 runs
- * counter-clockwise; the circular arcs and the circle take any other value as clockwise, the
- * ellipses only 1 (pass 0 or 1). */
-
-/* Appends the arc about (xc, yc) from (x1, y1) to (x2, y2), both given points included as they
- * are, with steps no longer than those of a circle of num_puntos points (at least 3) dividing the
- * arc evenly; an arc shorter than 1.1 such steps gets only its two ends. When the ends lie at
- * different distances from the centre the radius changes linearly with the angle. */
-ARRAYS_API void arr_AnyadirArcoPunto2D(ARRAY *array, double xc, double yc, double x1, double y1,
-                                       double x2, double y2, SHORT sentido,
-                                       ULONG num_puntos) ARR_NOEXCEPT;
-/* The same arc in exactly num_puntos points (at least 2), both ends included. */
-ARRAYS_API void arr_AnyadirArcoPunto2D_numPuntosArco(ARRAY *array, double xc, double yc,
-                                                     double x1, double y1, double x2, double y2,
-                                                     SHORT sentido, ULONG num_puntos) ARR_NOEXCEPT;
-/* The same arc with enough points that no side exceeds longitud_maxima_lado (> 0) on the larger
- * of the two radii, and no fewer than a circle of num_puntos points would give it; at least 2. */
-ARRAYS_API void arr_AnyadirArcoPunto2D_con_longitud_maxima_lado(
-    ARRAY *array, double xc, double yc, double x1, double y1, double x2, double y2, SHORT sentido,
-    ULONG num_puntos, double longitud_maxima_lado) ARR_NOEXCEPT;
-/* Appends the arc of the ellipse about (xc, yc) with semi-axes semieje_x, semieje_y, turned
- * counter-clockwise by angulo_giro, from the eccentric angle angulo_inicial to angulo_final (the
- * ellipse's own angles, before the turn), a step of 2 pi / num_puntos apart. Equal angles give one
- * point; angles a turn apart give the whole closed ellipse. A point closer than 1e-5 to the one
- * before it is left out. */
-ARRAYS_API void arr_AnyadirArcoElipsePunto2D(ARRAY *array, double xc, double yc, double semieje_x,
-                                             double semieje_y, double angulo_inicial,
-                                             double angulo_final, double angulo_giro,
-                                             SHORT sentido, ULONG num_puntos) ARR_NOEXCEPT;
-/* The same arc, its step set by longitud_maxima_lado (> 0) on the larger semi-axis and by a
- * circle of num_puntos points, whichever gives more points, and at most 10000 points. */
-ARRAYS_API void arr_AnyadirArcoElipsePunto2D_con_longitud_maxima_lado(
-    ARRAY *array, double xc, double yc, double semieje_x, double semieje_y, double angulo_inicial,
-    double angulo_final, double angulo_giro, SHORT sentido, ULONG num_puntos,
-    double longitud_maxima_lado) ARR_NOEXCEPT;
-/* Appends to an empty array the circle about (xc, yc) of radius radio as numPtosCirculo points
- * (at least 3) from (xc + radio, yc), counter-clockwise for sentido 0 and mirrored otherwise;
- * the first point is not repeated at the end. */
-ARRAYS_API void arr_AnyadirCirculoPunto2D(ARRAY *array, double xc, double yc, double radio,
-                                          SHORT sentido, ULONG numPtosCirculo) ARR_NOEXCEPT;
-
-/* Signed area of the polygon closed from the last point back to the first: positive when the
- * points run counter-clockwise, negative clockwise, 0.0 for fewer than three points. */
-ARRAYS_API double arr_CalcularAreaPunto2D(const ARRAY *array) ARR_NOEXCEPT;
-/* Length of the open polyline. *indice_lado_mayor gets the index of the first point of its
- * longest side (the first of equal ones) and *longitud_lado_mayor that side's length; with fewer
- * than two points 0 is returned, with ARR_ULONG_MAX and -1.0. Either pointer may be NULL. */
-ARRAYS_API double arr_LongitudPunto2D(const ARRAY *array, ULONG *indice_lado_mayor,
-                                      double *longitud_lado_mayor) ARR_NOEXCEPT;
-/* Distance from (x, y) to the open polyline (to its only point when it has one); the nearest
- * point of the polyline goes to the pointers that are not NULL. The array must not be empty. */
-ARRAYS_API double arr_DistanciaDePuntoAPolilineaAbiertaPunto2D(const ARRAY *array, double x,
-                                                               double y, double *x_cercano,
-                                                               double *y_cercano) ARR_NOEXCEPT;
-/* The same for the polyline closed by a side from its last point back to the first. */
-ARRAYS_API double arr_DistanciaDePuntoAPolilineaCerradaPunto2D(const ARRAY *array, double x,
-                                                               double y, double *x_cercano,
-                                                               double *y_cercano) ARR_NOEXCEPT;
-/* The point of the array nearest to (x, y) (the lowest index among equally near ones): its
- * coordinates, index and distance go to the pointers that are not NULL. The array must not be
- * empty. */
-ARRAYS_API void arr_IndicePolilineaMasCercanoAPuntoReferenciaPunto2D(
-    const ARRAY *array, double x, double y, double *x_cercano, double *y_cercano, ULONG *indice,
-    double *distancia) ARR_NOEXCEPT;
-/* Deletes every point equal to the one before it (each coordinate within 1e-9); the first and
- * last points are not compared with each other. *num_eliminados (if not NULL) gets how many. */
-ARRAYS_API void arr_EliminarPuntosContiguosRepetidosPunto2D(ARRAY *array,
-                                                            ULONG *num_eliminados) ARR_NOEXCEPT;
-/* Deletes, from the start, every point closer than tolerancia to the line through its two
- * neighbours (the neighbours as they are after earlier deletions); point 0 always stays. With
- * cerrada 1 the polyline is taken as closed back to point 0: that needs a plain 2D point array
- * (one with private data is refused) that is not empty. */
-ARRAYS_API void arr_eliminar_contenidos_entre_dos_puntos_polilinea_Punto2D(
-    ARRAY *array, SHORT cerrada, double tolerancia) ARR_NOEXCEPT;
 
 #ifdef __cplusplus
 }

@@ -408,6 +408,176 @@ ARR_DECLARA_FAMILIA_CADENA(_u, WCHAR)
 ARRAYS_API ULONG arr_AumentaTamanyoCADENA(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;
 
 /* ---- Typed pointer and structure arrays ----------------------------------------------------- */
+/*
+ * Arrays whose elements are untyped pointers to the caller's own data (tag elem_PUNTERO_NO_USAR).
+ * Used as plain pointer arrays (the Puntero functions never free what the elements point to) or
+ * as owning structure arrays (the Estructura functions free through the caller's `libera` and
+ * copy through the caller's copy function). The Array forms work on an array of arrays: a
+ * pointer array whose elements are structure arrays. A NULL element is allowed everywhere.
+ * A plain pointer array must be emptied, or its elements set to NULL, before
+ * arr_DestruyePunteroConTipo, which reports every pointer still set ("ptr == NULL").
+ * The Const forms do the same as their plain twins, for callers holding pointers to constant data.
+ * Shared with every family (declared above): arr_DestruyePunteroConTipo (destroy, pointers must
+ * be NULL) and arr_AumentaTamanyoEstructurasConTipo (grow; new elements are NULL).
+ */
+
+/* Equality of a search: the element (stored pointer) against the caller's datum; non-zero if equal. */
+typedef BOOL (*arr_igualdad_PunteroConTipo)(const void *elemento, const void *dato);
+/* Order of the sort (two elements) and of the bisection (element, datum): comparac_*. */
+typedef int (*arr_orden_PunteroConTipo)(const void *a, const void *b);
+/* Frees the structure in the slot (which may hold NULL) and sets the slot to NULL. */
+typedef void (*arr_libera_EstructuraConTipo)(void **elemento);
+/* A new structure equal to the element (which may be NULL), owned by the receiving array. */
+typedef void *(*arr_copia_EstructuraConTipo)(const void *elemento);
+/* Actions of the traversals: the stored pointer; its address and the caller's datos; the stored
+ * pointer and datos. The BOOL result is ignored. */
+typedef void (*arr_opera_PunteroConTipo)(void *elemento);
+typedef BOOL (*arr_accion_PunteroConTipo)(void **elemento, void *datos);
+typedef void (*arr_accion_EstructuraSimpleConTipo)(void *elemento, void *datos);
+
+/* A pointer array of n NULL elements in rows of long_fila_en_bytes bytes (a row holds
+ * long_fila_en_bytes / 8 pointers, which must be above 0); arr_CreaPunteroConTipo uses 2048. */
+ARRAYS_API ARRAY *arr_CreaPunteroConTipoEx(ULONG n, ULONG long_fila_en_bytes) ARR_NOEXCEPT;
+ARRAYS_API ARRAY *arr_CreaPunteroConTipo(ULONG n) ARR_NOEXCEPT;
+
+/* Destroys a structure array: calls libera (if not NULL) on every slot in order, NULL slots
+ * included, then frees the array and sets *array to NULL. The Const form frees no structure. */
+ARRAYS_API void arr_DestruyeEstructurasConTipo(ARRAY **array,
+                                               arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
+ARRAYS_API void arr_DestruyeEstructurasConstConTipo(ARRAY **array) ARR_NOEXCEPT;
+/* Destroys an array of arrays: each non-NULL inner array with arr_DestruyeEstructurasConTipo and
+ * libera (the Const form: with no libera), then the outer array. */
+ARRAYS_API void arr_DestruyeEstructurasArrayConTipo(ARRAY **array_de_arrays,
+                                                    arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
+ARRAYS_API void arr_DestruyeEstructurasConstArrayConTipo(ARRAY **array_de_arrays) ARR_NOEXCEPT;
+
+/* Append, insert before pos (pos == count appends) and overwrite at pos; an overwritten pointer
+ * is not freed. */
+ARRAYS_API void arr_AppendPunteroConTipo(ARRAY *array, void *puntero) ARR_NOEXCEPT;
+ARRAYS_API void arr_AppendPunteroConstConTipo(ARRAY *array, const void *puntero) ARR_NOEXCEPT;
+ARRAYS_API void arr_InsertarPunteroConTipo(ARRAY *array, ULONG pos, void *puntero) ARR_NOEXCEPT;
+ARRAYS_API void arr_InsertarPunteroConstConTipo(ARRAY *array, ULONG pos,
+                                                const void *puntero) ARR_NOEXCEPT;
+ARRAYS_API void arr_SetPunteroConTipo(ARRAY *array, ULONG pos, void *puntero) ARR_NOEXCEPT;
+ARRAYS_API void arr_SetPunteroConstConTipo(ARRAY *array, ULONG pos, const void *puntero) ARR_NOEXCEPT;
+/* Stores an inner array at pos of an array of arrays (arr_SetPunteroConstConTipo). */
+ARRAYS_API void arr_SetPunteroConstArrayConTipo(ARRAY *array_de_arrays, ULONG pos,
+                                                const ARRAY *array) ARR_NOEXCEPT;
+/* The pointer stored at pos; NULL when there is no such element. */
+ARRAYS_API void *arr_GetPunteroConTipo(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+/* Removes the element at pos without freeing it (one function under both names). */
+ARRAYS_API void arr_BorrarPuntero(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+ARRAYS_API void arr_BorrarPunteroConst(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+/* Frees the structure at pos through libera (required), then removes the element. */
+ARRAYS_API void arr_BorrarEstructuraConTipo(ARRAY *array, ULONG pos,
+                                            arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
+/* Destroys the inner array at pos with arr_DestruyeEstructurasConTipo and libera (required),
+ * then removes the element. */
+ARRAYS_API void arr_BorrarEstructuraArrayConTipo(ARRAY *array_de_arrays, ULONG pos,
+                                                 arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
+
+/* Shrinks to nuevo_tamanyo (at most the count): libera (if not NULL) is called on every slot cut
+ * off; the Const form frees nothing. */
+ARRAYS_API void arr_ReduceTamanyoEstructurasConTipo(ARRAY *array, ULONG nuevo_tamanyo,
+                                                    arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
+ARRAYS_API void arr_ReduceTamanyoEstructurasConTipoConst(ARRAY *array,
+                                                         ULONG nuevo_tamanyo) ARR_NOEXCEPT;
+/* Shrinks an array of arrays: destroys each non-NULL inner array cut off, with libera. */
+ARRAYS_API void arr_ReduceEstructurasArrayConTipo(ARRAY *array_de_arrays, ULONG nuevo_tamanyo,
+                                                  arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
+
+/* Position of the first element that is the same pointer (identity, never content), or
+ * ARR_ULONG_MAX. */
+ARRAYS_API ULONG arr_BuscarPunteroConTipo(ARRAY *array, const void *puntero) ARR_NOEXCEPT;
+/* Position of the first element from 0 (from pos_inicial) for which igualdad(element, dato)
+ * holds, or ARR_ULONG_MAX. The Unica forms report a second match and yield the last one. */
+ARRAYS_API ULONG arr_BuscarEstructuraConTipo(ARRAY *array, const void *dato,
+                                             arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+ARRAYS_API ULONG arr_BuscarSiguienteEstructuraConTipo(ARRAY *array, ULONG pos_inicial,
+                                                      const void *dato,
+                                                      arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+ARRAYS_API ULONG arr_BuscarUnicaEstructuraConTipo(ARRAY *array, const void *dato,
+                                                  arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+/* Found? posicion (if not NULL) gets the position or ARR_ULONG_MAX. */
+ARRAYS_API BOOL arr_ExisteEstructuraConTipo(ARRAY *array, const void *dato,
+                                            arr_igualdad_PunteroConTipo igualdad,
+                                            ULONG *posicion) ARR_NOEXCEPT;
+ARRAYS_API BOOL arr_ExisteUnicaEstructuraConTipo(ARRAY *array, const void *dato,
+                                                 arr_igualdad_PunteroConTipo igualdad,
+                                                 ULONG *posicion) ARR_NOEXCEPT;
+/* The element of the unique match (one function under both names); a missing match is
+ * reported ("posicion != ULONG_MAX") and yields NULL. */
+ARRAYS_API void *nousar_arr_dame_unica_estructura(ARRAY *array, const void *dato,
+                                                  arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+ARRAYS_API void *nousar_arr_dame_unica_estructura_const(ARRAY *array, const void *dato,
+                                                        arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+
+/* Sorts in place with compara (required from 2 elements on); fewer than 2 elements: nothing. */
+ARRAYS_API void arr_QSortPunteroConTipo(ARRAY *array, arr_orden_PunteroConTipo compara) ARR_NOEXCEPT;
+ARRAYS_API void arr_QSortPunteroConTipoConst(ARRAY *array,
+                                             arr_orden_PunteroConTipo compara) ARR_NOEXCEPT;
+/* Same count and igualdad(element of array1, element of array2) at every position. */
+ARRAYS_API BOOL arr_SonIgualesPunteroConTipo(ARRAY *array1, ARRAY *array2,
+                                             arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+/* Same count and arr_SonIgualesPunteroConTipo of every pair of inner arrays. */
+ARRAYS_API BOOL arr_SonIgualesEstructurasArrayConTipo(ARRAY *array1, ARRAY *array2,
+                                                      arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+
+/* A new array whose elements are copia(element) (copia NULL: the same pointers). */
+ARRAYS_API ARRAY *arr_CopiaEstructurasConTipo(const ARRAY *array,
+                                              arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
+/* A new array of arrays of the same count: the copy of each inner array, NULL where it is NULL. */
+ARRAYS_API ARRAY *arr_CopiaEstructurasArrayConTipo(const ARRAY *array_de_arrays,
+                                                   arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
+/* Appends to dest copia(element) (copia NULL or the Const form: the element itself) of every
+ * element of org, which is marked as being read meanwhile; ubicacion and linea name the caller
+ * in a report of a traversal of org already running. */
+ARRAYS_API void arr_ConcatenaEstructurasConTipo(ARRAY *dest, ARRAY *org,
+                                                arr_copia_EstructuraConTipo copia,
+                                                const char *ubicacion, LONG linea) ARR_NOEXCEPT;
+ARRAYS_API void arr_ConcatenaEstructurasConTipoConst(ARRAY *dest, ARRAY *org, const char *ubicacion,
+                                                     LONG linea) ARR_NOEXCEPT;
+/* Appends to dest a copy of each non-NULL inner array of org (NULL ones are skipped). */
+ARRAYS_API void arr_ConcatenaEstructurasArrayConTipo(ARRAY *dest, ARRAY *org_de_arrays,
+                                                     arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
+/* Reverses the order of the elements in place. */
+ARRAYS_API void arr_nousar_InvierteOrdenPunteroConTipo(ARRAY *array) ARR_NOEXCEPT;
+
+/* Traversals in position order with the array marked busy: accion(stored pointer);
+ * accion(&element, datos) (ubicacion and linea name the caller in a report of a traversal
+ * already running); accion(stored pointer, datos). */
+ARRAYS_API void arr_RecorrePunteroConTipo(ARRAY *array, arr_opera_PunteroConTipo accion) ARR_NOEXCEPT;
+ARRAYS_API void arr_RecorreEstructuraConTipo(ARRAY *array, arr_accion_PunteroConTipo accion,
+                                             void *datos, const char *ubicacion,
+                                             LONG linea) ARR_NOEXCEPT;
+ARRAYS_API void arr_RecorreEstructuraSimpleConTipo(ARRAY *array,
+                                                   arr_accion_EstructuraSimpleConTipo accion,
+                                                   void *datos) ARR_NOEXCEPT;
+
+/*
+ * Ordered search by bisection over an array kept in ascending order under compara(element,
+ * datum). An equal element "hit" is the first element if equal, else the last if equal, else the
+ * one a midpoint lands on first. Comparison results inconsistent with a sorted array are
+ * reported; positions stay between 0 and the count.
+ */
+/* Where dato goes: the hit, else the first greater element, else the count. ARR_ULONG_MAX when
+ * the array or compara cannot be used. */
+ARRAYS_API ULONG arr_DamePosicionInsercionPunteroOrdenadoDicotomicamenteConTipo(
+    ARRAY *array, arr_orden_PunteroConTipo compara, const void *dato) ARR_NOEXCEPT;
+/* Inserts dato at that position, even when an equal element exists. */
+ARRAYS_API void arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(
+    ARRAY *array, arr_orden_PunteroConTipo compara, void *dato) ARR_NOEXCEPT;
+/* Inserts dato only when no equal element was hit; *encontrado (if not NULL) says whether one was. */
+ARRAYS_API void arr_nousar_InsertarPunteroOrdenadoDicotomicamente_SiNoExiste(
+    ARRAY *array, arr_orden_PunteroConTipo compara, void *dato, BOOL *encontrado) ARR_NOEXCEPT;
+/* First and last positions of the run of elements equal to dato, or ARR_ULONG_MAX to both. */
+ARRAYS_API void arr_BuscarEstructuraDicotomicamenteConTipo(
+    ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, ULONG *posPrimerEncontrado,
+    ULONG *posUltimoEncontrado) ARR_NOEXCEPT;
+/* TRUE when such a run exists; only then are the positions written, through the non-NULL pointers. */
+ARRAYS_API BOOL arr_ExisteEstructuraDicotomicamenteConTipo(
+    ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, ULONG *posPrimerEncontrado,
+    ULONG *posUltimoEncontrado) ARR_NOEXCEPT;
 
 /* ---- 2D point arrays ------------------------------------------------------------------------ */
 

@@ -109,7 +109,8 @@ void opera(ARRAY *array, ULONG real_pos, Operacion &&operacion)
     if (real_pos > 0 && !arrayprv_posicion(array, real_pos, &desde))
         return;
     array->en_bucle = CIERTO;
-    arrayprv_visita(array, desde, SIZE_MAX, [&](char *e) { operacion(puntero_de(array, e)); });
+    arrayprv_visita(array, desde, array->num_elems - real_pos,
+                    [&](char *e) { operacion(puntero_de(array, e)); });
     array->en_bucle = FALSO;
 }
 
@@ -148,7 +149,9 @@ void arrayprv_recorre(ARRAY *array, const fnc_accion *acciones, void *datos,
         return;
     BOOL &guarda = lectura == 1 ? array->en_bucle_lectura : array->en_bucle;
     guarda = CIERTO;
-    aplica(array, posicion_array{0, 0}, SIZE_MAX, acciones, datos);
+    // Only the elements there at the start: an action that appends (a reported misuse) must not
+    // keep the traversal going forever.
+    aplica(array, posicion_array{0, 0}, array->num_elems, acciones, datos);
     guarda = FALSO;
 }
 

@@ -1,0 +1,119 @@
+// Tracked memory: every block is counted while it lives, reallocation keeps the contents, the
+// free-and-clear operation leaves the pointer NULL, and array headers come from a pool that keeps
+// a destroyed header readable.
+#include "soporte/prueba_arrays.h"
+
+#include "core/arrayprv.h"
+#include "services/memoria.h"
+
+#include <cstring>
+
+namespace {
+
+// What is allocated now compared with when the object was made.
+class Balance {
+public:
+    size_t bloques() const { return zarpspy_bloques_vivos() - bloques_; }
+    size_t bytes() const { return zarpspy_bytes_vivos() - bytes_; }
+
+private:
+    size_t bloques_ = zarpspy_bloques_vivos();
+    size_t bytes_ = zarpspy_bytes_vivos();
+};
+
+using Memoria = PruebaArrays;
+
+TEST_F(Memoria, MallocCountsTheBlockAndItsBytesUntilFreed)
+{
+    const Balance balance;
+    void *bloque = zarpspy_nousar_malloc(100);
+    EXPECT_EQ(balance.bloques(), 1u);
+    EXPECT_EQ(balance.bytes(), 100u);
+    zarpspy_nousar_free_pp(&bloque, 1);
+    EXPECT_EQ(bloque, nullptr);
+    EXPECT_EQ(balance.bloques(), 0u);
+    EXPECT_EQ(balance.bytes(), 0u);
+}
+
+TEST_F(Memoria, CallocGivesCountTimesSizeZeroedBytes)
+{
+    const Balance balance;
+    auto *tabla = static_cast<size_t *>(zarpspy_nousar_calloc(10, sizeof(size_t)));
+    EXPECT_EQ(balance.bloques(), 1u);
+    EXPECT_EQ(balance.bytes(), 10 * sizeof(size_t));
+    for (size_t i = 0; i < 10; ++i)
+        EXPECT_EQ(tabla[i], 0u);
+    zarpspy_nousar_free_pp(&tabla, sizeof(size_t));
+    EXPECT_EQ(balance.bloques(), 0u);
+}
+
+TEST_F(Memoria, GrowingReallocKeepsTheContentsAndCountsTheNewSize)
+{
+    const Balance balance;
+    char *bloque = static_cast<char *>(zarpspy_nousar_malloc(4));
+    std::memcpy(bloque, "abc", 4);
+    bloque = static_cast<char *>(zarpspy_nousar_realloc(bloque, 4096));
+    EXPECT_STREQ(bloque, "abc");
+    EXPECT_EQ(balance.bloques(), 1u);
+    EXPECT_EQ(balance.bytes(), 4096u);
+    zarpspy_nousar_free_pp(&bloque, 1);
+    EXPECT_EQ(balance.bytes(), 0u);
+}
+
+TEST_F(Memoria, ShrinkingReallocKeepsTheHeadAndCountsTheNewSize)
+{
+    const Balance balance;
+    char *bloque = static_cast<char *>(zarpspy_nousar_malloc(4096));
+    std::memcpy(bloque, "abc", 4);
+    bloque = static_cast<char *>(zarpspy_nousar_realloc(bloque, 2));
+    EXPECT_EQ(std::memcmp(bloque, "ab", 2), 0);
+    EXPECT_EQ(balance.bloques(), 1u);
+    EXPECT_EQ(balance.bytes(), 2u);
+    zarpspy_nousar_free_pp(&bloque, 1);
+    EXPECT_EQ(balance.bytes(), 0u);
+}
+
+TEST_F(Memoria, ReallocOfNullAllocatesANewBlock)
+{
+    const Balance balance;
+    void *bloque = zarpspy_nousar_realloc(nullptr, 24);
+    EXPECT_NE(bloque, nullptr);
+    EXPECT_EQ(balance.bloques(), 1u);
+    EXPECT_EQ(balance.bytes(), 24u);
+    zarpspy_nousar_free_pp(&bloque, 1);
+}
+
+TEST_F(Memoria, FreeingANullPointerOrANullAddressChangesNothing)
+{
+    const Balance balance;
+    void *nada = nullptr;
+    zarpspy_nousar_free_pp(&nada, 1);
+    zarpspy_nousar_free_pp(nullptr, 1);
+    EXPECT_EQ(nada, nullptr);
+    EXPECT_EQ(balance.bloques(), 0u);
+    EXPECT_EQ(balance.bytes(), 0u);
+}
+
+TEST_F(Memoria, HeaderSlotIsCountedUntilReturnedToThePool)
+{
+    const Balance balance;
+    void *cabecera = zarpspy_reserva_cabecera(sizeof(ARRAY));
+    EXPECT_EQ(balance.bloques(), 1u);
+    EXPECT_EQ(balance.bytes(), sizeof(ARRAY));
+    zarpspy_libera_cabecera(&cabecera);
+    EXPECT_EQ(cabecera, nullptr);
+    EXPECT_EQ(balance.bloques(), 0u);
+    EXPECT_EQ(balance.bytes(), 0u);
+}
+
+TEST_F(Memoria, DestroyedHeaderStaysReadableWithItsMarkCleared)
+{
+    ARRAY *array = arr_CreaDouble(3);
+    const ARRAY *copia_del_handle = array;
+    EXPECT_EQ(copia_del_handle->mascara_debug, MASCARA_DEBUG);
+    arr_DestruyeDouble(&array);
+    EXPECT_EQ(array, nullptr);
+    EXPECT_EQ(copia_del_handle->mascara_debug, 0);
+}
+
+} // namespace

@@ -90,10 +90,11 @@ void PruebaPunteros::SetUp()
     PruebaArrays::SetUp();
     num_llamadas_libera = 0;
     num_llamadas_copia = 0;
+    vivas_al_empezar_ = vivas.size();
 }
 
 void PruebaPunteros::TearDown()
 {
-    EXPECT_EQ(estructuras_vivas(), 0u) << "structures left alive";
+    EXPECT_EQ(vivas.size(), vivas_al_empezar_) << "structures left alive";
     PruebaArrays::TearDown();
 }

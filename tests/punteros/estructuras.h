@@ -36,10 +36,13 @@ std::vector<void *> punteros_de(ARRAY *array);
 ARRAY *crea_estructuras(std::initializer_list<int> valores);
 std::vector<int> valores_de(ARRAY *array);
 
-// Every test starts with the counters at zero and ends with no structure alive (besides the
-// checks of PruebaArrays).
+// Every test starts with the call counters at zero and ends with as many structures alive as it
+// found (besides the checks of PruebaArrays).
 class PruebaPunteros : public PruebaArrays {
 protected:
     void SetUp() override;
     void TearDown() override;
+
+private:
+    size_t vivas_al_empezar_ = 0;
 };

@@ -41,7 +41,7 @@ TEST_F(AccesoPunteros, AppendAcrossRowsKeepsTheOrder)
     arr_AppendPunteroConTipo(array, &a);
     arr_AppendPunteroConTipo(array, &b);
     arr_AppendPunteroConTipo(array, &c);
-    EXPECT_EQ(array->num_filas, 2u);
+    EXPECT_EQ(size_t{array->num_filas}, 2u);
     EXPECT_EQ(punteros_de(array), (Punteros{&a, &b, &c}));
     arr_DestruyeEstructurasConstConTipo(&array);
 }

@@ -50,9 +50,9 @@ TEST_F(CreacionPunteros, CreateWithThreeGivesThreeNullElements)
 {
     ARRAY *array = arr_CreaPunteroConTipo(3);
     EXPECT_EQ(punteros_de(array), (Punteros{nullptr, nullptr, nullptr}));
-    EXPECT_EQ(array->tipo_elem, elem_PUNTERO_NO_USAR);
-    EXPECT_EQ(array->size_elem, 8u);
-    EXPECT_EQ(array->long_max_fila_en_elem, 256u);
+    EXPECT_EQ(tipo_elem_array{array->tipo_elem}, elem_PUNTERO_NO_USAR);
+    EXPECT_EQ(size_t{array->size_elem}, 8u);
+    EXPECT_EQ(size_t{array->long_max_fila_en_elem}, 256u);
     arr_DestruyePunteroConTipo(&array);
     EXPECT_EQ(array, nullptr);
 }
@@ -60,9 +60,9 @@ TEST_F(CreacionPunteros, CreateWithThreeGivesThreeNullElements)
 TEST_F(CreacionPunteros, CreateEmptyHasNoRows)
 {
     ARRAY *array = arr_CreaPunteroConTipo(0);
-    EXPECT_EQ(array->num_elems, 0u);
-    EXPECT_EQ(array->num_filas, 0u);
-    EXPECT_EQ(array->buffer, nullptr);
+    EXPECT_EQ(size_t{array->num_elems}, 0u);
+    EXPECT_EQ(size_t{array->num_filas}, 0u);
+    EXPECT_EQ(static_cast<char **>(array->buffer), nullptr);
     EXPECT_EQ(array->mascara_debug, MASCARA_DEBUG);
     arr_DestruyePunteroConTipo(&array);
 }
@@ -70,10 +70,10 @@ TEST_F(CreacionPunteros, CreateEmptyHasNoRows)
 TEST_F(CreacionPunteros, CreateExRowSizeSetsPointersPerRow)
 {
     ARRAY *array = arr_CreaPunteroConTipoEx(5, 16);
-    EXPECT_EQ(array->long_max_fila_en_elem, 2u);
-    ASSERT_EQ(array->num_filas, 3u);
-    EXPECT_EQ(array->long_filas[0], 2u);
-    EXPECT_EQ(array->long_filas[2], 1u);
+    EXPECT_EQ(size_t{array->long_max_fila_en_elem}, 2u);
+    ASSERT_EQ(size_t{array->num_filas}, 3u);
+    EXPECT_EQ(size_t{array->long_filas[0]}, 2u);
+    EXPECT_EQ(size_t{array->long_filas[2]}, 1u);
     EXPECT_EQ(punteros_de(array), Punteros(5, nullptr));
     arr_DestruyePunteroConTipo(&array);
 }
@@ -84,8 +84,8 @@ TEST_F(CreacionPunteros, CreateExWithFourByteRowsReportsNoRoomForAPointer)
     ASSERT_EQ(informes_completos().size(), 1u);
     EXPECT_EQ(informes_completos()[0].ubicacion, "a_punter (ARRAYS.DLL)");
     EXPECT_EQ(informes(), Textos{"array->long_max_fila_en_elem > 0"});
-    EXPECT_EQ(array->long_max_fila_en_elem, 0u);
-    EXPECT_EQ(array->num_elems, 0u);
+    EXPECT_EQ(size_t{array->long_max_fila_en_elem}, 0u);
+    EXPECT_EQ(size_t{array->num_elems}, 0u);
     EXPECT_EQ(array->mascara_debug, MASCARA_DEBUG);
     arr_DestruyePunteroConTipo(&array);
 }

@@ -1,0 +1,53 @@
+// Bytes of heap per element, after n appends and after 10^5 random inserts, measured with the C
+// library's own count of bytes in use (the same meter for every container).
+#include "comun.h"
+
+#include <malloc.h>
+
+namespace {
+
+constexpr size_t INSERCIONES = 100000;
+
+size_t bytes_en_uso()
+{
+    malloc_trim(0);
+    return mallinfo2().uordblks;
+}
+
+template <typename C, bool con_inserciones> void bytes_por_elemento(benchmark::State &estado)
+{
+    const size_t n = static_cast<size_t>(estado.range(0));
+    for (auto _ : estado) {
+        const size_t antes = bytes_en_uso();
+        const size_t anyadidos = con_inserciones ? n - INSERCIONES : n;
+        C c(0);
+        for (size_t i = 0; i < anyadidos; ++i)
+            c.anyade(static_cast<double>(i));
+        if constexpr (con_inserciones)
+            for (size_t p : posiciones_aleatorias(INSERCIONES, anyadidos, 3))
+                c.inserta(p, 1.0);
+        const size_t despues = mallinfo2().uordblks;
+        estado.counters["bytes_per_element"] =
+            static_cast<double>(despues - antes) / static_cast<double>(c.tamanyo());
+    }
+}
+
+template <typename C> void registra_memoria()
+{
+    benchmark::RegisterBenchmark((std::string("bytes_after_appends/") + C::nombre).c_str(),
+                                 bytes_por_elemento<C, false>)
+        ->Arg(1000000)->Arg(10000000)->Arg(100000000)->Iterations(1)->Unit(benchmark::kMillisecond);
+}
+
+const bool registrado = [] {
+    registra_memoria<Arrays>();
+    registra_memoria<Vector>();
+    registra_memoria<Deque>();
+    registra_memoria<BoostDeque>();
+    registra_memoria<Garray>();
+    benchmark::RegisterBenchmark("bytes_after_inserts/arrays", bytes_por_elemento<Arrays, true>)
+        ->Arg(1000000)->Arg(10000000)->Iterations(1)->Unit(benchmark::kMillisecond);
+    return true;
+}();
+
+} // namespace

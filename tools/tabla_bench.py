@@ -4,6 +4,7 @@ library's time divided by each peer's, on the same operation and size) and one o
 element. Benchmark names have the form "operation/container/size"."""
 import json
 import platform
+import re
 import subprocess
 import sys
 from collections import defaultdict
@@ -36,7 +37,8 @@ def main(ruta):
     for b in datos["benchmarks"]:
         if b.get("run_type") == "aggregate":
             continue
-        partes = [p for p in b["name"].split("/") if ":" not in p]  # drop "iterations:1" and the like
+        # drop the run options Google Benchmark appends, such as "iterations:1"
+        partes = [p for p in b["name"].split("/") if not re.match(r"(iterations|min_time|repeats|threads):", p)]
         operacion, contenedor, tamanyo = partes
         clave = (operacion, int(tamanyo))
         if "bytes_per_element" in b:

@@ -8,16 +8,18 @@ namespace {
 
 constexpr size_t INSERCIONES = 100000;
 
+// Bytes handed out by malloc, counting the large blocks it maps on their own.
 size_t bytes_en_uso()
 {
-    malloc_trim(0);
-    return mallinfo2().uordblks;
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
 }
 
 template <typename C, bool con_inserciones> void bytes_por_elemento(benchmark::State &estado)
 {
     const size_t n = static_cast<size_t>(estado.range(0));
     for (auto _ : estado) {
+        malloc_trim(0);
         const size_t antes = bytes_en_uso();
         const size_t anyadidos = con_inserciones ? n - INSERCIONES : n;
         C c(0);
@@ -26,7 +28,7 @@ template <typename C, bool con_inserciones> void bytes_por_elemento(benchmark::S
         if constexpr (con_inserciones)
             for (size_t p : posiciones_aleatorias(INSERCIONES, anyadidos, 3))
                 c.inserta(p, 1.0);
-        const size_t despues = mallinfo2().uordblks;
+        const size_t despues = bytes_en_uso();
         estado.counters["bytes_per_element"] =
             static_cast<double>(despues - antes) / static_cast<double>(c.tamanyo());
     }

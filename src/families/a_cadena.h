@@ -232,7 +232,8 @@ template <typename C> struct FamiliaCadena {
         R::destruye(&temporal);
     }
 
-    // inicio, the strings with `separador` between them, fin; a NULL element adds nothing.
+    // inicio, the strings with `separador` between them, fin after the last one; a NULL element
+    // adds nothing, and an array without elements gives just inicio.
     static C *cadena_de_referencias(ARRAY *array, C inicio, C separador, C fin)
     {
         if (!entrada(array))
@@ -245,10 +246,8 @@ template <typename C> struct FamiliaCadena {
             const C *cadena;
             std::memcpy(&cadena, elemento, sizeof cadena);
             R::concatena(&resultado, cadena);
-            if (++vistas < num_cadenas)
-                concatena_caracter(&resultado, separador);
+            concatena_caracter(&resultado, ++vistas < num_cadenas ? separador : fin);
         });
-        concatena_caracter(&resultado, fin);
         return resultado;
     }
 

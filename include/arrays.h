@@ -150,13 +150,16 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
  * One line per scalar family: its word in the export names, its C value type, its element
  * type tag, how its values compare (ARR_BOOLEANO: always exactly, no predicates; ARR_ENTERO: an
  * optional predicate in searches, exact equality of arrays; ARR_REAL: a predicate required in
- * searches and in equality of arrays), and which of the optional operations it has (ARR_SI /
- * ARR_NO): AppendN, AumentaTamanyo, ReduceTamanyo and the traversal arr_nousar_Recorre.
- * For a family F of value type T:
+ * searches and in equality of arrays), and which of the optional operations it has: AppendN,
+ * AumentaTamanyo, ReduceTamanyo, Sumar, Sumatorio and the traversal arr_nousar_Recorre (ARR_SI /
+ * ARR_NO; Sumar's column names the type of its delta, ARR_DELTA_SHORT, ARR_DELTA_LONG or
+ * ARR_DELTA_LONG64). The gaps are deliberate. For a family F of value type T:
  *
  *   ARRAY *arr_CreaF(ULONG n)                    new array of n zero elements
  *   void   arr_AppendF(ARRAY *a, T v)            append v
- *   void   arr_AppendNFs(ARRAY *a, ULONG n, T v) append v n times
+ *   void   arr_AppendNFs(ARRAY *a, ULONG n, T v) append v n times (BOOL and Double report a
+ *          count below 2 as "num_veces > 1", ULong and ULong64 a count of 0 as "num_veces > 0";
+ *          either way v is then appended n times)
  *   void   arr_InsertarF(ARRAY *a, ULONG pos, T v)  insert v before pos (pos == count appends)
  *   void   arr_BorrarF(ARRAY *a, ULONG pos)      delete the element at pos
  *   T      arr_GetF(ARRAY *a, ULONG pos)         the element at pos
@@ -166,8 +169,13 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
  *   ULONG  arr_BuscarUnicoF(ARRAY *a, T v [, igualdad]) the same; a second match is reported
  *   BOOL   arr_ExisteF(ARRAY *a, T v [, igualdad], ULONG *pos)  found? pos (if not NULL) gets
  *          the position or ARR_ULONG_MAX; arr_ExisteUnicoF likewise
- *   void   arr_QSortF(ARRAY *a, arr_orden_F comparador)  sort in place; NULL: ascending
+ *   void   arr_QSortF(ARRAY *a, arr_orden_F comparador)  sort in place; NULL: ascending (Char as
+ *          signed 8-bit values; BOOL's default never answers "less", so it only partly orders)
  *   BOOL   arr_SonIgualesF(ARRAY *a, ARRAY *b [, igualdad])  same count and equal elements
+ *   void   arr_SumarF(ARRAY *a, ULONG pos, D delta)  adds delta to the element at pos, wrapping
+ *          in the element's width; a sum not strictly inside the type's range is reported first
+ *   T      arr_SumatorioF(const ARRAY *a)        the sum of the elements (unsigned families
+ *          modulo 2^32 or 2^64, without a report)
  *   void   arr_nousar_RecorreF(ARRAY *a, accion, void *datos, const char *ubicacion, LONG linea)
  *          call accion(&element, datos) for every element in order; ubicacion and linea name
  *          the caller in a report of a traversal already running
@@ -182,6 +190,11 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
 #define ARR_SI(...) __VA_ARGS__
 #define ARR_NO(...)
 
+/* Sumar's column applied to a generator M and its arguments: M(delta type, arguments...). */
+#define ARR_DELTA_SHORT(M, ...) M(SHORT, __VA_ARGS__)
+#define ARR_DELTA_LONG(M, ...) M(LONG, __VA_ARGS__)
+#define ARR_DELTA_LONG64(M, ...) M(LONG64, __VA_ARGS__)
+
 /* The predicate parameter of searches and of array equality, by how a family compares. */
 #define ARR_BUSCA_CON_ARR_BOOLEANO(F)
 #define ARR_BUSCA_CON_ARR_ENTERO(F) , arr_igualdad_##F igualdad
@@ -190,11 +203,37 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
 #define ARR_IGUALES_CON_ARR_ENTERO(F)
 #define ARR_IGUALES_CON_ARR_REAL(F) , arr_igualdad_##F igualdad
 
-/*   family  value type  tag                  compares   AppendN  Aumenta  Reduce  Recorre */
-#define ARR_FAMILIAS_ESCALARES(X) \
-    X(Double, double, elem_DOUBLE_NO_USAR, ARR_REAL, ARR_SI, ARR_SI, ARR_SI, ARR_SI)
+/*  family   value type  tag                   compares      AppendN Aumenta Reduce
+ *                                                          Sumar             Sumatorio Recorre */
+#define ARR_FAMILIAS_ESCALARES(X)                                                                 \
+    X(BOOL, BOOL, elem_BOOL_NO_USAR, ARR_BOOLEANO, ARR_SI, ARR_SI, ARR_SI,                        \
+      ARR_NO, ARR_NO, ARR_SI)                                                                     \
+    X(BYTE, BYTE, elem_BYTE_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                          \
+      ARR_NO, ARR_NO, ARR_NO)                                                                     \
+    X(UChar, UCHAR, elem_UCHAR_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_SI,                       \
+      ARR_NO, ARR_NO, ARR_NO)                                                                     \
+    X(Char, char, elem_CHAR_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_NO,                          \
+      ARR_NO, ARR_NO, ARR_SI)                                                                     \
+    X(Short, SHORT, elem_SHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_NO,                       \
+      ARR_NO, ARR_NO, ARR_NO)                                                                     \
+    X(UShort, USHORT, elem_USHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
+      ARR_DELTA_SHORT, ARR_NO, ARR_SI)                                                            \
+    X(Long, LONG, elem_LONG_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                          \
+      ARR_DELTA_LONG, ARR_NO, ARR_NO)                                                             \
+    X(ULong, ULONG, elem_ULONG_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,                       \
+      ARR_DELTA_LONG, ARR_SI, ARR_SI)                                                             \
+    X(Long64, LONG64, elem_LONG64_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
+      ARR_DELTA_LONG64, ARR_NO, ARR_NO)                                                           \
+    X(ULong64, ULONG64, elem_ULONG64_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,                 \
+      ARR_DELTA_LONG64, ARR_SI, ARR_SI)                                                           \
+    X(Double, double, elem_DOUBLE_NO_USAR, ARR_REAL, ARR_SI, ARR_SI, ARR_SI,                      \
+      ARR_NO, ARR_SI, ARR_SI)
 
-#define ARR_DECLARA_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, RECORRE)        \
+#define ARR_DECLARA_SUMAR(D, F)                                                                   \
+    ARRAYS_API void arr_Sumar##F(ARRAY *array, ULONG pos, D delta) ARR_NOEXCEPT;
+
+#define ARR_DECLARA_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, SUMAR,          \
+                                    SUMATORIO, RECORRE)                                           \
     typedef BOOL (*arr_accion_##F)(T * elemento, void *datos);                                    \
     typedef BOOL (*arr_igualdad_##F)(T a, T b);                                                   \
     typedef int (*arr_orden_##F)(T a, T b);                                                       \
@@ -220,10 +259,39 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
     ARRAYS_API void arr_Concatena##F(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;                 \
     AUMENTA(ARRAYS_API void arr_AumentaTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;) \
     REDUCE(ARRAYS_API void arr_ReduceTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;)   \
+    SUMAR(ARR_DECLARA_SUMAR, F)                                                                   \
+    SUMATORIO(ARRAYS_API T arr_Sumatorio##F(const ARRAY *array) ARR_NOEXCEPT;)                    \
     RECORRE(ARRAYS_API void arr_nousar_Recorre##F(ARRAY *array, arr_accion_##F accion, void *datos, \
                                                   const char *ubicacion, LONG linea) ARR_NOEXCEPT;)
 
 ARR_FAMILIAS_ESCALARES(ARR_DECLARA_FAMILIA_ESCALAR)
+
+/* Reverses the order of the elements in place (the values are not negated). */
+ARRAYS_API void arr_InvertirBOOL(ARRAY *array) ARR_NOEXCEPT;
+
+/* The smallest and the greatest element and their first positions, written through the pointers
+ * that are not NULL. An empty array is reported ("array->num_elems > 0"); it, and an array of
+ * NaNs only, give DBL_MAX, -DBL_MAX and ARR_ULONG_MAX for both positions. */
+ARRAYS_API void arr_MinimoMaximoDouble(const ARRAY *array, double *minimo, ULONG *pos_minimo,
+                                       double *maximo, ULONG *pos_maximo) ARR_NOEXCEPT;
+
+/* TRUE when both arrays have the same count and no pair of elements at the same position
+ * differs by more than `tolerancia` (a NaN difference counts as equal). */
+ARRAYS_API BOOL arr_SonIgualesDoubleConTolerancia(const ARRAY *array1, const ARRAY *array2,
+                                                  double tolerancia) ARR_NOEXCEPT;
+/* The same for two pointer arrays (arr_CreaPunteroConTipo) whose elements are Double arrays,
+ * compared pair by pair up to the first unequal pair. */
+ARRAYS_API BOOL arr_SonIgualesArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
+                                                               const ARRAY *array2,
+                                                               double tolerancia) ARR_NOEXCEPT;
+/* The same one level deeper: pointer arrays whose elements are such pointer arrays. */
+ARRAYS_API BOOL arr_SonIgualesArrArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
+                                                                  const ARRAY *array2,
+                                                                  double tolerancia) ARR_NOEXCEPT;
+
+/* Turns every price of a Double array from pesetas into euros (divided by 166.386), rounded to
+ * two decimals. */
+ARRAYS_API void arr_cambio_precio_pesetas_a_euros(ARRAY *array) ARR_NOEXCEPT;
 
 /* ---- The shared functions under the names of the other families ------------------------- */
 
@@ -266,7 +334,66 @@ ARR_NOMBRES_REDUCE(ARR_DECLARA_TAMANYO)
 
 /* ---- Bit arrays --------------------------------------------------------------------------- */
 
+/*
+ * Arrays of single bits, packed eight to a byte: bit pos is bit pos % 8 (from the least
+ * significant) of byte pos / 8. A bit is passed as a BOOL (any non-zero value sets it) and read
+ * back as 1 or 0. arr_NumElemsBIT counts bits. Destruction, count, copy, growth and shrinking
+ * are the shared functions (arr_DestruyeBIT, arr_NumElemsBIT, arr_CopiaBIT,
+ * arr_AumentaTamanyoBIT, arr_ReduceTamanyoBIT); bits have no insert, delete, search, sort,
+ * comparison or concatenation.
+ */
+
+/* A new array of n false bits. */
+ARRAYS_API ARRAY *arr_CreaBIT(ULONG n) ARR_NOEXCEPT;
+/* The bit at pos: 1 or 0. A pos not below the bit count is reported ("pos < array->num_bits");
+ * the byte that would hold it is still read when it exists. */
+ARRAYS_API BOOL arr_GetBIT(const ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+/* Sets the bit at pos for a non-zero valor, clears it for FALSO; pos as in arr_GetBIT. */
+ARRAYS_API void arr_SetBIT(ARRAY *array, ULONG pos, BOOL valor) ARR_NOEXCEPT;
+/* Appends one bit. */
+ARRAYS_API void arr_AppendBIT(ARRAY *array, BOOL valor) ARR_NOEXCEPT;
+/* Sets every bit (whole bytes, so also the spare bits of the last byte) to valor. */
+ARRAYS_API void arr_InicializaBIT(ARRAY *array, BOOL valor) ARR_NOEXCEPT;
+
 /* ---- The arulong and arulong64 names ------------------------------------------------------ */
+
+/*
+ * The ULong and ULong64 families under second, lower-case names: arulong_ for ULong arrays and
+ * arulong64_ for ULong64 arrays. An array made under either set of names may be used with the
+ * other. Besides the shared arulong_destruye, arulong_numelems, arulong_copia,
+ * arulong_concatena and arulong_reduce_tamanyo (above), each name below is the very same function
+ * as its arr_ twin, X(second name, arr_ name), except arulong_crea and arulong_append_n.
+ */
+#define ARR_NOMBRES_ARULONG(X, P, F)                                                              \
+    X(P##_append, arr_Append##F) X(P##_inserta, arr_Insertar##F) X(P##_borra, arr_Borrar##F)      \
+    X(P##_get, arr_Get##F) X(P##_set, arr_Set##F) X(P##_busca, arr_Buscar##F)                     \
+    X(P##_busca_unico, arr_BuscarUnico##F) X(P##_existe, arr_Existe##F)                           \
+    X(P##_existe_unico, arr_ExisteUnico##F) X(P##_qsort, arr_QSort##F)                            \
+    X(P##_iguales, arr_SonIguales##F)
+
+/* The second names P of the family F of value type T. */
+#define ARR_DECLARA_ARULONG(P, F, T)                                                              \
+    /* A new empty array, as arr_CreaF(0). */                                                     \
+    ARRAYS_API ARRAY *P##_crea(void) ARR_NOEXCEPT;                                                \
+    /* Appends valor num_valores times; a count below 2 is reported ("num_valores > 1"). */       \
+    ARRAYS_API void P##_append_n(ARRAY *array, ULONG num_valores, T valor) ARR_NOEXCEPT;          \
+    ARRAYS_API void P##_append(ARRAY *array, T valor) ARR_NOEXCEPT;                               \
+    ARRAYS_API void P##_inserta(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;                   \
+    ARRAYS_API void P##_borra(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                              \
+    ARRAYS_API T P##_get(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                                   \
+    ARRAYS_API void P##_set(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;                       \
+    ARRAYS_API ULONG P##_busca(ARRAY *array, T valor, arr_igualdad_##F igualdad) ARR_NOEXCEPT;    \
+    ARRAYS_API ULONG P##_busca_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad)            \
+        ARR_NOEXCEPT;                                                                             \
+    ARRAYS_API BOOL P##_existe(ARRAY *array, T valor, arr_igualdad_##F igualdad, ULONG *posicion) \
+        ARR_NOEXCEPT;                                                                             \
+    ARRAYS_API BOOL P##_existe_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad,            \
+                                     ULONG *posicion) ARR_NOEXCEPT;                               \
+    ARRAYS_API void P##_qsort(ARRAY *array, arr_orden_##F comparador) ARR_NOEXCEPT;               \
+    ARRAYS_API BOOL P##_iguales(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+
+ARR_DECLARA_ARULONG(arulong, ULong, ULONG)
+ARR_DECLARA_ARULONG(arulong64, ULong64, ULONG64)
 
 /* ---- Narrow and wide string arrays ---------------------------------------------------------- */
 

@@ -1,6 +1,7 @@
 // The operations that every family shares: one function each, exported under every family's
 // name as symbol aliases (so the names have one address).
 #include "core/comparadores.h"
+#include "families/alias.h"
 
 // The shared bodies; hidden, reached only through their exported names.
 extern "C" void arr_destruye_comun(ARRAY **array) noexcept { arrayprv_destruye(array); }
@@ -25,11 +26,8 @@ extern "C" void arr_reduce_tamanyo_comun(ARRAY *array, ULONG nuevo_tamanyo) noex
     arrayprv_reduce_tamanyo(array, nuevo_tamanyo);
 }
 
-// Exports `nombre` as a second name of the function `destino` of this file.
-#define ARR_ALIAS(nombre, destino)                                                                \
-    extern "C" __attribute__((alias(#destino))) decltype(destino) nombre;
-
-#define ARR_ALIAS_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, RECORRE)          \
+#define ARR_ALIAS_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, SUMAR, SUMATORIO, \
+                                  RECORRE)                                                        \
     ARR_ALIAS(arr_Destruye##F, arr_destruye_comun)                                                \
     ARR_ALIAS(arr_NumElems##F, arr_num_elems_comun)                                               \
     ARR_ALIAS(arr_Copia##F, arr_copia_comun)                                                      \

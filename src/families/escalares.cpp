@@ -1,4 +1,5 @@
 // The exports of every scalar family, one table line each (ARR_FAMILIAS_ESCALARES in arrays.h).
+#include "families/alias.h"
 #include "families/familia_escalar.h"
 
 // The predicate a search or an equality passes on, by how the family compares.
@@ -9,7 +10,8 @@
 #define ARR_IGUALES_DE_ARR_ENTERO nullptr
 #define ARR_IGUALES_DE_ARR_REAL igualdad
 
-#define ARR_DEFINE_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, RECORRE)         \
+#define ARR_DEFINE_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, SUMAR,          \
+                                   SUMATORIO, RECORRE)                                            \
     extern "C" ARRAY *arr_Crea##F(ULONG tamanyo_inicial) noexcept                                 \
     {                                                                                             \
         return FamiliaEscalar<TAG>::crea(tamanyo_inicial);                                        \
@@ -77,3 +79,8 @@
     })
 
 ARR_FAMILIAS_ESCALARES(ARR_DEFINE_FAMILIA_ESCALAR)
+
+// The arulong_ and arulong64_ names that are the very same functions as the ULong and ULong64
+// ones above.
+ARR_NOMBRES_ARULONG(ARR_ALIAS, arulong, ULong)
+ARR_NOMBRES_ARULONG(ARR_ALIAS, arulong64, ULong64)

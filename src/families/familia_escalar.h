@@ -1,7 +1,8 @@
 // The typed front of a scalar family: each export packs its value into a buffer of the element's
 // size and calls one engine operation with the family's tag. The per-tag record says what
 // differs between families (value type, table members, default order, reporting module,
-// AppendN's minimum count).
+// AppendN's minimum count). Everything keys on the tag: BYTE and UChar share a C++ type, and so
+// do BOOL and UShort.
 #pragma once
 
 #include "core/arrayprv.h"
@@ -13,8 +14,87 @@
 // How a family's values compare (see ARR_BOOLEANO, ARR_ENTERO, ARR_REAL in arrays.h).
 enum class Comparacion { booleano, entero, real };
 
+// The count precondition of a repeated append: the smallest count accepted and the text that
+// reports a smaller one.
+struct ReglaVeces {
+    ULONG minimo;
+    const char *texto;
+};
+
 template <tipo_elem_array TAG> struct Escalar;
 
+// An integer family: an optional predicate in searches, exact equality of arrays.
+template <typename Valor, auto Accion, auto Igualdad, auto Orden> struct Entero {
+    using T = Valor;
+    static constexpr Comparacion comparacion = Comparacion::entero;
+    static constexpr auto accion = Accion;
+    static constexpr auto igualdad = Igualdad;
+    static constexpr auto orden_por_defecto = Orden;
+};
+
+#define ARR_ESCALAR_ENTERO(VALOR, MIEMBRO, ORDEN)                                            \
+    Entero<VALOR, &fnc_accion::fnc_accion_##MIEMBRO, &fnc_compara::fnc_compara_##MIEMBRO, ORDEN>
+
+// BOOL has no predicate anywhere: its values always compare exactly.
+template <> struct Escalar<elem_BOOL_NO_USAR> {
+    using T = BOOL;
+    static constexpr Comparacion comparacion = Comparacion::booleano;
+    static constexpr auto accion = &fnc_accion::fnc_accion_BOOL;
+    static constexpr auto orden_por_defecto = arrayprv_orden_bool;
+    static constexpr const char *UBICACION = "a_bool (ARRAYS.DLL)";
+    static constexpr ReglaVeces veces{2, "num_veces > 1"};
+};
+
+template <>
+struct Escalar<elem_BYTE_NO_USAR>
+    : ARR_ESCALAR_ENTERO(BYTE, BYTE, arrayprv_orden_byte) {};
+// UChar orders as BYTE does.
+template <>
+struct Escalar<elem_UCHAR_NO_USAR>
+    : ARR_ESCALAR_ENTERO(UCHAR, uchar, arrayprv_orden_byte) {};
+// Char orders as signed 8-bit whatever the platform's char is.
+template <>
+struct Escalar<elem_CHAR_NO_USAR>
+    : ARR_ESCALAR_ENTERO(char, char, arrayprv_orden_char) {};
+template <>
+struct Escalar<elem_SHORT_NO_USAR>
+    : ARR_ESCALAR_ENTERO(SHORT, short, arrayprv_orden_short) {};
+
+template <>
+struct Escalar<elem_USHORT_NO_USAR>
+    : ARR_ESCALAR_ENTERO(USHORT, ushort, arrayprv_orden_ushort) {
+    static constexpr const char *UBICACION = "a_ushort (ARRAYS.DLL)";
+};
+
+template <>
+struct Escalar<elem_LONG_NO_USAR>
+    : ARR_ESCALAR_ENTERO(LONG, long, arrayprv_orden_long) {
+    static constexpr const char *UBICACION = "a_long (ARRAYS.DLL)";
+};
+
+template <>
+struct Escalar<elem_ULONG_NO_USAR>
+    : ARR_ESCALAR_ENTERO(ULONG, ulong, arrayprv_orden_ulong) {
+    static constexpr const char *UBICACION = "a_ulong (ARRAYS.DLL)";
+    static constexpr ReglaVeces veces{1, "num_veces > 0"};
+};
+
+template <>
+struct Escalar<elem_LONG64_NO_USAR>
+    : ARR_ESCALAR_ENTERO(LONG64, long64, arrayprv_orden_long64) {
+    static constexpr const char *UBICACION = "a_long64 (ARRAYS.DLL)";
+};
+
+template <>
+struct Escalar<elem_ULONG64_NO_USAR>
+    : ARR_ESCALAR_ENTERO(ULONG64, ulong64, arrayprv_orden_ulong64) {
+    static constexpr const char *UBICACION = "a_ulong64 (ARRAYS.DLL)";
+    static constexpr ReglaVeces veces{1, "num_veces > 0"};
+};
+
+#undef ARR_ESCALAR_ENTERO
+
+// Doubles need the caller's predicate in searches and in equality of arrays.
 template <> struct Escalar<elem_DOUBLE_NO_USAR> {
     using T = double;
     static constexpr Comparacion comparacion = Comparacion::real;
@@ -22,9 +102,7 @@ template <> struct Escalar<elem_DOUBLE_NO_USAR> {
     static constexpr auto igualdad = &fnc_compara::fnc_compara_double;
     static constexpr auto orden_por_defecto = arrayprv_orden_double;
     static constexpr const char *UBICACION = "a_double (ARRAYS.DLL)";
-    // AppendN asks for more than one copy.
-    static constexpr ULONG minimo_veces = 2;
-    static constexpr const char *texto_veces = "num_veces > 1";
+    static constexpr ReglaVeces veces{2, "num_veces > 1"};
 };
 
 template <tipo_elem_array TAG> struct FamiliaEscalar {
@@ -38,12 +116,20 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
 
     static void append(ARRAY *array, T valor) { arrayprv_append(array, &valor, TAG); }
 
-    static void append_n(ARRAY *array, ULONG num_veces, T valor)
+    // Reports a count below the rule's minimum from the module `ubicacion`, then appends the
+    // value as many times as the count says.
+    static void append_n(ARRAY *array, ULONG num_veces, T valor, const char *ubicacion,
+                         ReglaVeces regla)
     {
-        constexpr const char *UBICACION = R::UBICACION;
-        ARR_EXIGE(num_veces >= R::minimo_veces, R::texto_veces);
+        const char *UBICACION = ubicacion;
+        ARR_EXIGE(num_veces >= regla.minimo, regla.texto);
         for (ULONG i = 0; i < num_veces; ++i)
             arrayprv_append(array, &valor, TAG);
+    }
+
+    static void append_n(ARRAY *array, ULONG num_veces, T valor)
+    {
+        append_n(array, num_veces, valor, R::UBICACION, R::veces);
     }
 
     static void inserta(ARRAY *array, ULONG pos, T valor)
@@ -53,7 +139,7 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
 
     static void borra(ARRAY *array, ULONG pos) { arrayprv_borra(array, pos, TAG); }
 
-    static T get(ARRAY *array, ULONG pos)
+    static T get(const ARRAY *array, ULONG pos)
     {
         T valor{};
         if (const void *elemento = arrayprv_get(array, pos, TAG))

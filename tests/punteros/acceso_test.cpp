@@ -4,6 +4,7 @@
 
 #include "core/arrayprv.h"
 
+#include <ostream>
 #include <vector>
 
 namespace {
@@ -144,6 +145,8 @@ struct ExportSinArray {
     const char *nombre;
     void (*llama)();
 };
+
+void PrintTo(const ExportSinArray &exportada, std::ostream *salida) { *salida << exportada.nombre; }
 
 class AccesoSinArray : public PruebaPunteros, public ::testing::WithParamInterface<ExportSinArray> {};
 

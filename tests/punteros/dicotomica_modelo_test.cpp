@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <bit>
 #include <random>
+#include <set>
 #include <vector>
 
 namespace {
@@ -89,6 +90,26 @@ ARRAY *array_de(std::vector<int> &claves)
     for (int &clave : claves)
         arr_AppendPunteroConTipo(array, &clave);
     return array;
+}
+
+// `n` random values from 0 to `maximo`.
+std::vector<int> datos_aleatorios(size_t n, int maximo, unsigned semilla)
+{
+    std::mt19937 azar(semilla);
+    std::uniform_int_distribution<int> valor(0, maximo);
+    std::vector<int> datos(n);
+    for (int &dato : datos)
+        dato = valor(azar);
+    return datos;
+}
+
+// The integers the elements of an array point to.
+std::vector<int> enteros_de(ARRAY *array)
+{
+    std::vector<int> enteros;
+    for (void *puntero : punteros_de(array))
+        enteros.push_back(*static_cast<int *>(puntero));
+    return enteros;
 }
 
 class ModeloDicotomica : public PruebaPunteros {
@@ -185,11 +206,7 @@ TEST_F(ModeloDicotomica, RunSearchAddsTheRecheckTheRunAndItsTwoNeighbours)
 
 TEST_F(ModeloDicotomica, OrderedInsertionPutsEachPointerAtTheModelsPosition)
 {
-    std::mt19937 azar(7);
-    std::uniform_int_distribution<int> valor(0, 400);
-    std::vector<int> datos(3000);
-    for (int &dato : datos)
-        dato = valor(azar);
+    std::vector<int> datos = datos_aleatorios(3000, 400, 7);
     std::vector<int> en_orden;
     ARRAY *array = arr_CreaPunteroConTipo(0);
     for (int &dato : datos) {
@@ -198,35 +215,23 @@ TEST_F(ModeloDicotomica, OrderedInsertionPutsEachPointerAtTheModelsPosition)
         ASSERT_EQ(arr_GetPunteroConTipo(array, static_cast<ULONG>(esperada)), &dato);
         en_orden.insert(en_orden.begin() + static_cast<std::ptrdiff_t>(esperada), dato);
     }
-    std::vector<int> contenido;
-    for (void *puntero : punteros_de(array))
-        contenido.push_back(*static_cast<int *>(puntero));
-    EXPECT_EQ(contenido, en_orden);
-    EXPECT_TRUE(std::is_sorted(contenido.begin(), contenido.end()));
+    EXPECT_EQ(enteros_de(array), en_orden);
+    EXPECT_TRUE(std::is_sorted(en_orden.begin(), en_orden.end()));
     arr_DestruyeEstructurasConstConTipo(&array);
 }
 
-TEST_F(ModeloDicotomica, InsertIfAbsentKeepsOneElementPerKey)
+TEST_F(ModeloDicotomica, InsertIfAbsentInsertsEachKeyOnceAndTellsWhetherItWasThere)
 {
-    std::mt19937 azar(11);
-    std::uniform_int_distribution<int> valor(0, 300);
-    std::vector<int> datos(2000);
-    for (int &dato : datos)
-        dato = valor(azar);
+    std::vector<int> datos = datos_aleatorios(2000, 300, 11);
+    std::set<int> presentes;
     ARRAY *array = arr_CreaPunteroConTipo(0);
     for (int &dato : datos) {
         BOOL encontrado = FALSO;
-        const ULONG antes = arrayprv_num_elems(array);
         arr_nousar_InsertarPunteroOrdenadoDicotomicamente_SiNoExiste(array, compara_contando, &dato, &encontrado);
-        ASSERT_EQ(arrayprv_num_elems(array), antes + (encontrado ? 0 : 1));
+        ASSERT_EQ(encontrado, presentes.count(dato) == 1 ? CIERTO : FALSO);
+        presentes.insert(dato);
     }
-    std::vector<int> contenido;
-    for (void *puntero : punteros_de(array))
-        contenido.push_back(*static_cast<int *>(puntero));
-    std::vector<int> distintos = datos;
-    std::sort(distintos.begin(), distintos.end());
-    distintos.erase(std::unique(distintos.begin(), distintos.end()), distintos.end());
-    EXPECT_EQ(contenido, distintos);
+    EXPECT_EQ(enteros_de(array), std::vector<int>(presentes.begin(), presentes.end()));
     arr_DestruyeEstructurasConstConTipo(&array);
 }
 

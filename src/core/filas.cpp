@@ -100,8 +100,9 @@ void arrayprv_anyade_filas(ARRAY *array, size_t num_elems_a_poner)
 
 void arrayprv_inserta_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
 {
+    const bool fila_valida = ARR_EXIGE(fila <= array->num_filas, "fila <= array->num_filas");
     ARR_EXIGE(array->num_filas < MAX_FILAS, "array->num_filas < INT_MAX / sizeof(char *) - 1");
-    if (!ARR_EXIGE(fila <= array->num_filas, "fila <= array->num_filas"))
+    if (!fila_valida)
         return;
     const size_t posteriores = array->num_filas - fila;
     redimensiona_tablas(array, array->num_filas + 1);
@@ -222,13 +223,15 @@ void arrayprv_compacta(ARRAY *array)
 void arrayprv_mueve_elementos(ARRAY *array, size_t fila_dest, size_t pos_dest, size_t fila_org,
                               size_t pos_org, size_t elem_a_mover)
 {
-    const bool valido =
-        ARR_EXIGE(elem_a_mover > 0, "elem_a_mover > 0") &
-        ARR_EXIGE(fila_dest != fila_org, "fila_dest != fila_org") &
-        ARR_EXIGE(pos_org + elem_a_mover <= array->long_filas[fila_org],
-                  "pos_org + elem_a_mover <= array->long_filas[fila_org]") &
-        ARR_EXIGE(array->long_filas[fila_dest] + elem_a_mover <= array->long_max_fila_en_elem,
-                  "array->long_filas[fila_dest] + elem_a_mover <= array->long_max_fila_en_elem");
+    // Every broken condition is reported before the move is refused.
+    const bool hay_run = ARR_EXIGE(elem_a_mover > 0, "elem_a_mover > 0");
+    const bool filas_distintas = ARR_EXIGE(fila_dest != fila_org, "fila_dest != fila_org");
+    const bool cabe_en_origen = ARR_EXIGE(pos_org + elem_a_mover <= array->long_filas[fila_org],
+                                          "pos_org + elem_a_mover <= array->long_filas[fila_org]");
+    const bool cabe_en_destino = ARR_EXIGE(
+        array->long_filas[fila_dest] + elem_a_mover <= array->long_max_fila_en_elem,
+        "array->long_filas[fila_dest] + elem_a_mover <= array->long_max_fila_en_elem");
+    const bool valido = hay_run && filas_distintas && cabe_en_origen && cabe_en_destino;
     if (!valido || pos_dest > array->long_filas[fila_dest])
         return;
     const size_t size = array->size_elem;

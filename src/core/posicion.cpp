@@ -54,9 +54,9 @@ bool busca_dicotomica(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 
 bool arrayprv_posicion(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 {
-    const bool existe = ARR_EXIGE(array->num_elems > 0, "array->num_elems > 0") &
-                        ARR_EXIGE(real_pos < array->num_elems, "real_pos < array->num_elems");
-    if (!existe || array->num_filas == 0)
+    const bool hay_elementos = ARR_EXIGE(array->num_elems > 0, "array->num_elems > 0");
+    const bool dentro = ARR_EXIGE(real_pos < array->num_elems, "real_pos < array->num_elems");
+    if (!(hay_elementos && dentro) || array->num_filas == 0)
         return false;
     if (real_pos < array->long_filas[0]) {
         *posi = {0, real_pos};

@@ -1,0 +1,76 @@
+// Helpers of the engine tests.
+#include "motor/ayudas_motor.h"
+
+#include <cstring>
+
+namespace {
+
+std::vector<size_t> tabla(const ARRAY *array, size_t *ARRAY::*miembro)
+{
+    const size_t *datos = array->*miembro;
+    return datos == nullptr ? std::vector<size_t>{}
+                            : std::vector<size_t>(datos, datos + array->num_filas);
+}
+
+} // namespace
+
+ARRAY *crea_doubles_en_filas(std::initializer_list<size_t> cuentas, ULONG long_fila_en_bytes)
+{
+    ARRAY *array = arrayprv_crea(0, elem_DOUBLE_NO_USAR, long_fila_en_bytes);
+    for (size_t cuenta : cuentas)
+        arrayprv_anyade_filas(array, cuenta);
+    for (ULONG i = 0; i < array->num_elems; ++i)
+        arr_SetDouble(array, i, i + 1.0);
+    return array;
+}
+
+ARRAY *crea_doubles_anyadidos(ULONG n, ULONG long_fila_en_bytes)
+{
+    ARRAY *array = arrayprv_crea(0, elem_DOUBLE_NO_USAR, long_fila_en_bytes);
+    for (ULONG i = 1; i <= n; ++i)
+        arr_AppendDouble(array, i);
+    return array;
+}
+
+ARRAY *crea_cadenas(std::initializer_list<const char *> textos)
+{
+    ARRAY *array = arrayprv_crea(0, elem_CADENA_NO_USAR, LONG_FILA_POR_DEFECTO);
+    for (const char *texto : textos) {
+        char *cadena = cad_copia_cadena(texto);
+        arrayprv_append(array, &cadena, elem_CADENA_NO_USAR);
+    }
+    return array;
+}
+
+std::vector<double> numerados(size_t desde, size_t hasta)
+{
+    std::vector<double> valores;
+    for (size_t i = desde; i <= hasta; ++i)
+        valores.push_back(static_cast<double>(i));
+    return valores;
+}
+
+std::vector<double> contenido(ARRAY *array)
+{
+    std::vector<double> valores;
+    for (ULONG i = 0; i < arr_NumElemsDouble(array); ++i)
+        valores.push_back(arr_GetDouble(array, i));
+    return valores;
+}
+
+bool sin_filas(const ARRAY *array)
+{
+    return array->num_filas == 0 && array->buffer == nullptr && array->long_filas == nullptr &&
+           array->max_long_filas == nullptr && array->acumulado_filas == nullptr;
+}
+
+std::vector<size_t> longitudes(const ARRAY *array) { return tabla(array, &ARRAY::long_filas); }
+std::vector<size_t> capacidades(const ARRAY *array) { return tabla(array, &ARRAY::max_long_filas); }
+std::vector<size_t> acumulados(const ARRAY *array) { return tabla(array, &ARRAY::acumulado_filas); }
+
+double double_en(const ARRAY *array, size_t fila, size_t pos)
+{
+    double valor;
+    std::memcpy(&valor, array->buffer[fila] + pos * sizeof valor, sizeof valor);
+    return valor;
+}

@@ -139,6 +139,8 @@ struct Particion {
     V longitudes;
 };
 
+void PrintTo(const Particion &particion, std::ostream *salida) { *salida << particion.nombre; }
+
 class InsertarEnFilaLlenaDeCinco : public PruebaArrays,
                                    public ::testing::WithParamInterface<Particion> {};
 

@@ -14,6 +14,8 @@ struct Bandera {
     const char *texto_handle;
 };
 
+void PrintTo(const Bandera &bandera, std::ostream *salida) { *salida << bandera.texto; }
+
 class EnRecorridoDe : public PruebaConArray, public ::testing::WithParamInterface<Bandera> {
 protected:
     ARRAY *crea_array() override { return crea_doubles_anyadidos(3); }

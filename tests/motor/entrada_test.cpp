@@ -27,6 +27,8 @@ struct HandleMalo {
     const char *largo;
 };
 
+void PrintTo(const HandleMalo &handle, std::ostream *salida) { *salida << handle.nombre; }
+
 // A NULL handle, or one whose header has been destroyed through another copy of it (the
 // type-stable header pool keeps the block readable, with its validity mark cleared).
 class HandleInvalido : public PruebaArrays, public ::testing::WithParamInterface<HandleMalo> {

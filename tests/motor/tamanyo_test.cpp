@@ -199,6 +199,8 @@ struct CambioDeBits {
     size_t bytes_esperados;
 };
 
+void PrintTo(const CambioDeBits &cambio, std::ostream *salida) { *salida << cambio.nombre; }
+
 class Bits : public PruebaArrays, public ::testing::WithParamInterface<CambioDeBits> {};
 
 INSTANTIATE_TEST_SUITE_P(

@@ -707,10 +707,221 @@ ARRAYS_API BOOL arr_ExisteEstructuraDicotomicamenteConTipo(
     ULONG *posUltimoEncontrado) ARR_NOEXCEPT;
 
 /* ---- 2D point arrays ------------------------------------------------------------------------ */
+/* A 2D point is x, y (two doubles). Searches and whole-array equality take a predicate, sorting
+ * takes an ordering comparator (comparac_PRIMERO_MENOR, comparac_IGUALES, comparac_PRIMERO_MAYOR);
+ * neither has a default. arr_GetPunto2D, arr_SetPunto2D, arr_BorrarPunto2D,
+ * arr_ArraysDePunto2DIguales, arr_GetMinimaxPunto2D and arr_GetSegmentoPunto2D accept a 2D point
+ * array with private data as well. arr_DestruyePunto2D, arr_NumElemsPunto2D, arr_CopiaPunto2D,
+ * arr_ConcatenaPunto2D, arr_AumentaTamanyoPunto2D and arr_ReduceTamanyoPunto2D are the shared
+ * functions above. */
+typedef BOOL (*arr_igualdad_Punto2D)(double x1, double y1, double x2, double y2);
+typedef int (*arr_orden_Punto2D)(double x1, double y1, double x2, double y2);
+typedef BOOL (*arr_accion_Punto2D)(double *x, double *y, void *datos);
+
+/* New array of n points (0, 0). */
+ARRAYS_API ARRAY *arr_CreaPunto2D(ULONG tamanyo_inicial) ARR_NOEXCEPT;
+/* Appends the point (x, y). */
+ARRAYS_API void arr_AppendPunto2D(ARRAY *array, double x, double y) ARR_NOEXCEPT;
+/* Inserts (x, y) before pos (pos == count appends). */
+ARRAYS_API void arr_InsertarPunto2D(ARRAY *array, ULONG pos, double x, double y) ARR_NOEXCEPT;
+/* Sets every point to (x, y). */
+ARRAYS_API void arr_InicializaPunto2D(ARRAY *array, double x, double y) ARR_NOEXCEPT;
+/* The point at pos into *x and *y (either may be NULL; with both NULL only checks that the point
+ * exists). Also reads a point of a private-data array. */
+ARRAYS_API void arr_GetPunto2D(const ARRAY *array, ULONG pos, double *x, double *y) ARR_NOEXCEPT;
+/* Overwrites the point at pos; on a private-data array its data becomes NULL (the old data is
+ * not released). Does not refuse an array inside a traversal. */
+ARRAYS_API void arr_SetPunto2D(ARRAY *array, ULONG pos, double x, double y) ARR_NOEXCEPT;
+/* Deletes the point at pos, of either kind of 2D point array (private data is not released). */
+ARRAYS_API void arr_BorrarPunto2D(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+/* First position whose point matches (x, y) by the predicate, or ARR_ULONG_MAX. */
+ARRAYS_API ULONG arr_BuscarPunto2D(ARRAY *array, double x, double y,
+                                   arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
+/* The same; a second match is reported and the last match is the result. */
+ARRAYS_API ULONG arr_BuscarUnicoPunto2D(ARRAY *array, double x, double y,
+                                        arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
+/* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
+ARRAYS_API BOOL arr_ExistePunto2D(ARRAY *array, double x, double y, arr_igualdad_Punto2D igualdad,
+                                  ULONG *posicion) ARR_NOEXCEPT;
+ARRAYS_API BOOL arr_ExisteUnicoPunto2D(ARRAY *array, double x, double y,
+                                       arr_igualdad_Punto2D igualdad, ULONG *posicion) ARR_NOEXCEPT;
+/* Sorts in place by the comparator. */
+ARRAYS_API void arr_QSortPunto2D(ARRAY *array, arr_orden_Punto2D comparador) ARR_NOEXCEPT;
+/* Same count and every pair of points equal by the predicate. */
+ARRAYS_API BOOL arr_SonIgualesPunto2D(ARRAY *array1, ARRAY *array2,
+                                      arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
+/* Same count and, point by point, |x1 - x2| <= tolerancia and |y1 - y2| <= tolerancia (a square
+ * per coordinate, not a distance). Either array may carry private data. */
+ARRAYS_API BOOL arr_ArraysDePunto2DIguales(const ARRAY *array1, const ARRAY *array2,
+                                           double tolerancia) ARR_NOEXCEPT;
+/* array1 and array2 are typed pointer arrays whose elements are 2D point arrays: same count
+ * and the point arrays at each position equal by arr_ArraysDePunto2DIguales. */
+ARRAYS_API BOOL arr_SonIgualesArrPunteroArrPunto2DConTolerancia(const ARRAY *array1,
+                                                                const ARRAY *array2,
+                                                                double tolerancia) ARR_NOEXCEPT;
+/* Calls accion(&x, &y, datos) for every point in order; ubicacion and linea name the caller in
+ * a report of a traversal already running. */
+ARRAYS_API void arr_nousar_RecorrePunto2D(ARRAY *array, arr_accion_Punto2D accion, void *datos,
+                                          const char *ubicacion, LONG linea) ARR_NOEXCEPT;
+/* Moves every point by (dx, dy). */
+ARRAYS_API void arr_MoverPunto2D(ARRAY *array, double dx, double dy) ARR_NOEXCEPT;
+/* Multiplies both coordinates of every point by factor. */
+ARRAYS_API void arr_MultiplicarPunto2D(ARRAY *array, double factor) ARR_NOEXCEPT;
+/* Turns every point about (xc, yc) CLOCKWISE by the angle whose sine and cosine are given. */
+ARRAYS_API void arr_Girar_en_sentido_horirario_seno_y_cosenoPunto2D(ARRAY *array, double xc,
+                                                                    double yc, double seno,
+                                                                    double coseno) ARR_NOEXCEPT;
+/* Turns every point about (xc, yc) by angulo radians, counter-clockwise when positive; an angle
+ * of magnitude 1e-5 or less changes nothing. */
+ARRAYS_API void arr_GirarPunto2D(ARRAY *array, double xc, double yc, double angulo) ARR_NOEXCEPT;
+/* Bounding box into the pointers that are not NULL; the array must not be empty. */
+ARRAYS_API void arr_GetMinimaxPunto2D(const ARRAY *array, double *xmin, double *ymin,
+                                      double *xmax, double *ymax) ARR_NOEXCEPT;
+/* Segment i of the closed polyline: point i and point i + 1, or point 0 after the last. */
+ARRAYS_API void arr_GetSegmentoPunto2D(const ARRAY *array, ULONG i, double *x1, double *y1,
+                                       double *x2, double *y2) ARR_NOEXCEPT;
+/* A new array with the points in reverse order; the argument is unchanged. */
+ARRAYS_API ARRAY *arr_InvertirPunto2D(const ARRAY *array) ARR_NOEXCEPT;
 
 /* ---- 2D points with private data ------------------------------------------------------------ */
+/* A point x, y carrying one pointer of the caller's private data, which the library never
+ * dereferences: it is released only by the destroy function given to arr_DestruyePunto2DXPriv or
+ * arr_ReduceTamanyoPunto2DXPriv (which must leave it NULL), copied only by the copy function
+ * given to the copy and concatenation, and must be NULL when the array is destroyed or shrunk
+ * otherwise. Use arr_NumElemsPunto2D for the count and arr_GetPunto2D / arr_SetPunto2D /
+ * arr_BorrarPunto2D on these arrays too. */
+typedef BOOL (*arr_igualdad_Punto2DXPriv)(double x1, double y1, void *datos1, double x2,
+                                          double y2, void *datos2);
+typedef int (*arr_orden_Punto2DXPriv)(double x1, double y1, void *datos1, double x2, double y2,
+                                      void *datos2);
+typedef BOOL (*arr_accion_Punto2DXPriv)(double *x, double *y, void **datos_punto, void *datos);
+/* Returns the copy of a point's data. */
+typedef void *(*arr_copia_datos_Punto2DXPriv)(void *datos);
+/* Releases a point's data and sets *datos to NULL. */
+typedef void (*arr_destruye_datos_Punto2DXPriv)(void **datos);
+
+/* New array of n points (0, 0) with NULL data. */
+ARRAYS_API ARRAY *arr_CreaPunto2DXPriv(ULONG tamanyo_inicial) ARR_NOEXCEPT;
+/* Appends (x, y) with its data. */
+ARRAYS_API void arr_AppendPunto2DXPriv(ARRAY *array, double x, double y, void *datos) ARR_NOEXCEPT;
+/* Inserts (x, y, datos) before pos (pos == count appends). */
+ARRAYS_API void arr_InsertarPunto2DXPriv(ARRAY *array, ULONG pos, double x, double y,
+                                         void *datos) ARR_NOEXCEPT;
+/* The point at pos: x and y must not be NULL; datos may be. */
+ARRAYS_API void arr_GetPunto2DXPriv(const ARRAY *array, ULONG pos, double *x, double *y,
+                                    void **datos) ARR_NOEXCEPT;
+/* Overwrites the point at pos, data included; the old data is not released. */
+ARRAYS_API void arr_SetPunto2DXPriv(ARRAY *array, ULONG pos, double x, double y,
+                                    void *datos) ARR_NOEXCEPT;
+/* Deletes the point at pos; its data is not released. */
+ARRAYS_API void arr_BorrarPunto2DXPriv(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+/* First position whose point matches (x, y, datos) by the predicate, or ARR_ULONG_MAX. */
+ARRAYS_API ULONG arr_BuscarPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
+                                        arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
+/* The same; a second match is reported and the last match is the result. */
+ARRAYS_API ULONG arr_BuscarUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
+                                             arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
+/* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
+ARRAYS_API BOOL arr_ExistePunto2DXPriv(ARRAY *array, double x, double y, void *datos,
+                                       arr_igualdad_Punto2DXPriv igualdad,
+                                       ULONG *posicion) ARR_NOEXCEPT;
+ARRAYS_API BOOL arr_ExisteUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
+                                            arr_igualdad_Punto2DXPriv igualdad,
+                                            ULONG *posicion) ARR_NOEXCEPT;
+/* Sorts in place by the comparator. */
+ARRAYS_API void arr_QSortPunto2DXPriv(ARRAY *array, arr_orden_Punto2DXPriv comparador) ARR_NOEXCEPT;
+/* Same count and every pair of points equal by the predicate. */
+ARRAYS_API BOOL arr_SonIgualesPunto2DXPriv(ARRAY *array1, ARRAY *array2,
+                                           arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
+/* Calls accion(&x, &y, &datos_punto, datos) for every point in order. */
+ARRAYS_API void arr_RecorrePunto2DXPriv(ARRAY *array, arr_accion_Punto2DXPriv accion,
+                                        void *datos) ARR_NOEXCEPT;
+/* Moves every point by (dx, dy). */
+ARRAYS_API void arr_MoverPunto2DXPriv(ARRAY *array, double dx, double dy) ARR_NOEXCEPT;
+/* Multiplies both coordinates of every point by factor. */
+ARRAYS_API void arr_MultiplicarPunto2DXPriv(ARRAY *array, double factor) ARR_NOEXCEPT;
+/* Turns every point about (xc, yc) COUNTER-CLOCKWISE by the angle whose sine and cosine are
+ * given (the opposite sense of arr_Girar_en_sentido_horirario_seno_y_cosenoPunto2D). */
+ARRAYS_API void arr_Girar_seno_y_cosenoPunto2DXPriv(ARRAY *array, double xc, double yc,
+                                                    double seno, double coseno) ARR_NOEXCEPT;
+/* Turns every point about (xc, yc) by angulo radians, counter-clockwise when positive; an angle
+ * of magnitude 1e-5 or less changes nothing. */
+ARRAYS_API void arr_GirarPunto2DXPriv(ARRAY *array, double xc, double yc,
+                                      double angulo) ARR_NOEXCEPT;
+/* A new array with the points in reverse order and NULL data; every point with data is
+ * reported, as such arrays are not meant to be reversed. */
+ARRAYS_API ARRAY *arr_InvertirPunto2DXPriv(const ARRAY *array) ARR_NOEXCEPT;
+/* TRUE when some point has data that is not NULL. */
+ARRAYS_API BOOL arr_TieneDatosExtrasAlgunPunto2DXPriv(ARRAY *array) ARR_NOEXCEPT;
+/* Applies destruye (when not NULL) to every point's data, then destroys the array and sets
+ * *array to NULL. */
+ARRAYS_API void arr_DestruyePunto2DXPriv(ARRAY **array,
+                                         arr_destruye_datos_Punto2DXPriv destruye) ARR_NOEXCEPT;
+/* Shrinks to nuevo_tamanyo points, applying destruye (when not NULL) to the data of the points
+ * cut off. */
+ARRAYS_API void arr_ReduceTamanyoPunto2DXPriv(ARRAY *array, ULONG nuevo_tamanyo,
+                                              arr_destruye_datos_Punto2DXPriv destruye) ARR_NOEXCEPT;
+/* A new array with the points of array; each point's data is copia(datos), or the same pointer
+ * when copia is NULL (then only one of the two arrays may release it). ubicacion and linea name
+ * the caller in a report of a traversal already running. */
+ARRAYS_API ARRAY *arr_CopiaPunto2DXPriv_nousar(ARRAY *array, arr_copia_datos_Punto2DXPriv copia,
+                                               const char *ubicacion, LONG linea) ARR_NOEXCEPT;
+/* Appends org's points to dest, with data as in arr_CopiaPunto2DXPriv_nousar. */
+ARRAYS_API void arr_ConcatenaPunto2DXPriv_nousar(ARRAY *dest, ARRAY *org,
+                                                 arr_copia_datos_Punto2DXPriv copia,
+                                                 const char *ubicacion, LONG linea) ARR_NOEXCEPT;
 
 /* ---- 3D point arrays ------------------------------------------------------------------------ */
+/* A 3D point is x, y, z (three doubles). Searches and equality take a predicate, sorting an
+ * ordering comparator; neither has a default. arr_DestruyePunto3D, arr_NumElemsPunto3D,
+ * arr_CopiaPunto3D, arr_ConcatenaPunto3D, arr_AumentaTamanyoPunto3D and arr_ReduceTamanyoPunto3D
+ * are the shared functions above. */
+typedef BOOL (*arr_igualdad_Punto3D)(double x1, double y1, double z1, double x2, double y2,
+                                     double z2);
+typedef int (*arr_orden_Punto3D)(double x1, double y1, double z1, double x2, double y2, double z2);
+typedef BOOL (*arr_accion_Punto3D)(double *x, double *y, double *z, void *datos);
+
+/* New array of n points (0, 0, 0). */
+ARRAYS_API ARRAY *arr_CreaPunto3D(ULONG tamanyo_inicial) ARR_NOEXCEPT;
+/* Appends (x, y, z). */
+ARRAYS_API void arr_AppendPunto3D(ARRAY *array, double x, double y, double z) ARR_NOEXCEPT;
+/* Inserts (x, y, z) before pos (pos == count appends). */
+ARRAYS_API void arr_InsertarPunto3D(ARRAY *array, ULONG pos, double x, double y,
+                                    double z) ARR_NOEXCEPT;
+/* The point at pos into the pointers that are not NULL (with all NULL only checks that it
+ * exists). */
+ARRAYS_API void arr_GetPunto3D(const ARRAY *array, ULONG pos, double *x, double *y,
+                               double *z) ARR_NOEXCEPT;
+/* Overwrites the point at pos. */
+ARRAYS_API void arr_SetPunto3D(ARRAY *array, ULONG pos, double x, double y, double z) ARR_NOEXCEPT;
+/* Deletes the point at pos. */
+ARRAYS_API void arr_BorrarPunto3D(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+/* First position whose point matches (x, y, z) by the predicate, or ARR_ULONG_MAX. */
+ARRAYS_API ULONG arr_BuscarPunto3D(ARRAY *array, double x, double y, double z,
+                                   arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
+/* The same; a second match is reported and the last match is the result. */
+ARRAYS_API ULONG arr_BuscarUnicoPunto3D(ARRAY *array, double x, double y, double z,
+                                        arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
+/* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
+ARRAYS_API BOOL arr_ExistePunto3D(ARRAY *array, double x, double y, double z,
+                                  arr_igualdad_Punto3D igualdad, ULONG *posicion) ARR_NOEXCEPT;
+ARRAYS_API BOOL arr_ExisteUnicoPunto3D(ARRAY *array, double x, double y, double z,
+                                       arr_igualdad_Punto3D igualdad, ULONG *posicion) ARR_NOEXCEPT;
+/* Sorts in place by the comparator. */
+ARRAYS_API void arr_QSortPunto3D(ARRAY *array, arr_orden_Punto3D comparador) ARR_NOEXCEPT;
+/* Same count and every pair of points equal by the predicate. */
+ARRAYS_API BOOL arr_SonIgualesPunto3D(ARRAY *array1, ARRAY *array2,
+                                      arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
+/* Same count and, point by point, no coordinate differing by more than tolerancia (a box per
+ * coordinate, not a distance). */
+ARRAYS_API BOOL arr_SonIgualesPunto3DConTolerancia(const ARRAY *array1, const ARRAY *array2,
+                                                   double tolerancia) ARR_NOEXCEPT;
+/* A new array with the points in reverse order; the argument is unchanged. */
+ARRAYS_API ARRAY *arr_InvertirPunto3D(const ARRAY *array) ARR_NOEXCEPT;
+/* Calls accion(&x, &y, &z, datos) for every point in order; ubicacion and linea name the caller
+ * in a report of a traversal already running. */
+ARRAYS_API void arr_nousar_RecorrePunto3D(ARRAY *array, arr_accion_Punto3D accion, void *datos,
+                                          const char *ubicacion, LONG linea) ARR_NOEXCEPT;
 
 /* ---- Plane geometry on 2D point arrays ------------------------------------------------------ */
 

@@ -14,6 +14,13 @@ constexpr const char *UBICACION = UBICACION_ARRAYPRV;
 // Elements that hold a number of bits.
 size_t bytes_de_bits(size_t num_bits) { return num_bits / 8 + (num_bits % 8 != 0 ? 1 : 0); }
 
+// Frees a table of the header and yields the NULL to store back.
+size_t *tabla_liberada(size_t *tabla)
+{
+    zarpspy_nousar_free_pp(&tabla, sizeof(size_t));
+    return tabla;
+}
+
 } // namespace
 
 size_t arrayprv_size_elem(tipo_elem_array tipo)
@@ -106,10 +113,13 @@ void arrayprv_libera_filas(ARRAY *array)
 {
     if (array->num_filas == 0)
         return;
-    zarpstr_destruyeListaCadenas(cambtipo_size_t_a_unsigned_long(array->num_filas), &array->buffer);
-    zarpspy_nousar_free_pp(&array->acumulado_filas, sizeof(size_t));
-    zarpspy_nousar_free_pp(&array->max_long_filas, sizeof(size_t));
-    zarpspy_nousar_free_pp(&array->long_filas, sizeof(size_t));
+    // The header is packed: its tables are freed through aligned copies of their pointers.
+    char **buffer = array->buffer;
+    zarpstr_destruyeListaCadenas(cambtipo_size_t_a_unsigned_long(array->num_filas), &buffer);
+    array->buffer = buffer;
+    array->acumulado_filas = tabla_liberada(array->acumulado_filas);
+    array->max_long_filas = tabla_liberada(array->max_long_filas);
+    array->long_filas = tabla_liberada(array->long_filas);
     array->num_filas = 0;
     array->num_elems = 0;
 }

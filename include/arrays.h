@@ -413,7 +413,8 @@ ARR_DECLARA_ARULONG(arulong64, ULong64, ULONG64)
  * nothing is stored and a string handed over stays the caller's.
  *
  * Letter case (the MayMin searches) is ignored code point by code point with Unicode's simple
- * case folding; an ill-formed narrow string compares byte for byte.
+ * case folding; an ill-formed narrow string compares byte for byte, and a lone UTF-16 surrogate
+ * equals only itself.
  *
  *   ARRAY *arr_CreaCADENA(ULONG n)
  *          a new array of n NULL elements.
@@ -444,15 +445,16 @@ ARR_DECLARA_ARULONG(arulong64, ULong64, ULONG64)
  *          A size not above the count is reported as "nuevo_tamanyo > num_elems_ant".
  *          arr_AumentaTamanyoCADENA_u is the shared growth: its new elements are NULL.
  *   void   arr_QSortCADENA(ARRAY *a, arr_orden_CADENA comparador)
- *          sorts in place; comparador returns -1, 0 or 1; NULL sorts by the strings' code units.
+ *          sorts in place; comparador returns -1, 0 or 1. NULL sorts by the strings' code units
+ *          (bytes, UTF-16 units), NULL elements first.
  *   BOOL   arr_SonIgualesCADENA(ARRAY *a, ARRAY *b, arr_igualdad_CADENA igualdad)
  *          same count and igualdad(element of a, element of b) for every pair.
  *   BOOL   arr_SonIgualesExactamenteCADENA(ARRAY *a, ARRAY *b)
  *          the same with exact string equality.
  *   char  *arr_cadena_de_referencias(ARRAY *a, char inicio, char separador, char fin)
  *          a new string, owned by the caller: inicio, the elements with separador between
- *          them, fin; a 0 character is left out. An empty array is reported as
- *          "num_cadenas > 0" and gives just inicio.
+ *          them, fin after the last one; a 0 character is left out and a NULL element adds
+ *          nothing. An empty array is reported as "num_cadenas > 0" and gives just inicio.
  *   void   nousar_RecorreCADENA(ARRAY *a, arr_accion_CADENA accion, void *datos,
  *                               const char *ubicacion, LONG linea)
  *          calls accion(&element, datos) for every element in order; the action may replace
@@ -480,7 +482,7 @@ ARR_DECLARA_ARULONG(arulong64, ULong64, ULONG64)
 #define ARR_DECLARA_CALLBACKS_CADENA(S, C)                                                        \
     typedef BOOL (*arr_igualdad_CADENA##S)(const C *a, const C *b);                               \
     typedef int (*arr_orden_CADENA##S)(const C *a, const C *b);                                   \
-    typedef BOOL (*arr_accion_CADENA##S)(C **cadena, void *datos);     
+    typedef BOOL (*arr_accion_CADENA##S)(C **cadena, void *datos);
 
 /* The predicate parameter of a search, by how it compares strings. */
 #define ARR_PREDICADO_CADENA_EXACTA(S)

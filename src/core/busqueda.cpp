@@ -182,14 +182,21 @@ void arrayprv_busca(ARRAY *array, ULONG pos_inicial, const void *elemento,
 {
     if (posicion != nullptr)
         *posicion = ARR_ULONG_MAX;
-    if (!arrayprv_entrada(array, TEXTOS_ARRAY_CORTO, false, Modo::leniente) ||
-        !ARR_EXIGE(elemento, "elemento"))
+    if (!arrayprv_entrada(array, TEXTOS_ARRAY_CORTO, false, Modo::leniente))
         return;
-    con_igualdad(tipo_elem, tabla, array->size_elem, true, [&](auto iguales) {
-        if (ARR_EXIGE(posicion != nullptr, "(posicion) != NULL") &&
-            ARR_EXIGE(array->tipo_elem == tipo_elem, "array->tipo_elem == tipo_elem"))
-            recorre_buscando(array, pos_inicial, elemento, posicion, unico, iguales);
-    });
+    // Every check is reported; the walk runs only when all of them hold.
+    const bool hay_elemento = ARR_EXIGE(elemento, "elemento");
+    const auto destino_y_tipo = [&] {
+        return ARR_EXIGE(posicion != nullptr, "(posicion) != NULL") &
+               ARR_EXIGE(array->tipo_elem == tipo_elem, "array->tipo_elem == tipo_elem");
+    };
+    const bool hay_igualdad =
+        con_igualdad(tipo_elem, tabla, array->size_elem, true, [&](auto iguales) {
+            if (destino_y_tipo() && hay_elemento)
+                recorre_buscando(array, pos_inicial, elemento, posicion, unico, iguales);
+        });
+    if (!hay_igualdad)
+        destino_y_tipo();
 }
 
 BOOL arrayprv_son_iguales(const ARRAY *array1, const ARRAY *array2, const fnc_compara *tabla,

@@ -201,14 +201,16 @@ template <tipo_elem_array TAG> funciones_ordenacion *arrayprv_crea_ordenacion(co
     return tabla;
 }
 
-// The sort adapter of one type: checks its arguments and calls the type's member with the values.
+// The sort adapter of one type: checks its arguments (each one that can be checked is reported)
+// and calls the type's member with the values; comparac_IGUALES when it cannot call it.
 template <tipo_elem_array TAG>
 int arrayprv_adaptador(const funciones_ordenacion *tabla, const void *p1, const void *p2)
 {
     constexpr const char *UBICACION = UBICACION_ARRAYPRV;
-    if (!ARR_EXIGE(p1 && p2, "p1 && p2") ||
-        !ARR_EXIGE(tabla != nullptr, "(funciones_ordenacion) != NULL") ||
-        !ARR_EXIGE(tabla->*Orden<TAG>::miembro != nullptr, Orden<TAG>::texto_adaptador))
+    const bool elementos = ARR_EXIGE(p1 && p2, "p1 && p2");
+    if (!ARR_EXIGE(tabla != nullptr, "(funciones_ordenacion) != NULL") ||
+        !ARR_EXIGE(tabla->*Orden<TAG>::miembro != nullptr, Orden<TAG>::texto_adaptador) ||
+        !elementos)
         return comparac_IGUALES;
     return Orden<TAG>::llama(tabla->*Orden<TAG>::miembro, p1, p2);
 }
@@ -255,5 +257,6 @@ void arrayprv_concatena(ARRAY *dest, const ARRAY *org);
 
 // Reverses the order of the elements in place through get and set.
 void arrayprv_invierte(ARRAY *array, tipo_elem_array tipo_elem);
-// A new array of the same type with the elements in reverse order.
+// A new array of the same type with the elements in reverse order, copied byte for byte; the
+// argument is unchanged.
 ARRAY *arrayprv_invertida(const ARRAY *array, tipo_elem_array tipo_elem);

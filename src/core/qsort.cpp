@@ -137,13 +137,16 @@ void arrayprv_qsort(ARRAY *array, const funciones_ordenacion *tabla, adaptador_o
         array->num_elems < 2)
         return;
     array->en_bucle = CIERTO;
-    void *pivote = zarpspy_nousar_calloc(1, array->size_elem);
-    void *temporal = zarpspy_nousar_calloc(1, array->size_elem);
-    pilaqsor *pila = pilaqsor_crea(static_cast<ULONG>(std::min<size_t>(array->num_elems, ARR_ULONG_MAX)));
-    if (ARR_EXIGE(array->num_elems <= LONG_MAX, "array->num_elems <= LONG_MAX"))
+    // Positions are signed 32-bit from here on: a larger array is reported and left as it is,
+    // before its stack (a sixth of the count) is asked for.
+    if (ARR_EXIGE(array->num_elems <= LONG_MAX, "array->num_elems <= LONG_MAX")) {
+        void *pivote = zarpspy_nousar_calloc(1, array->size_elem);
+        void *temporal = zarpspy_nousar_calloc(1, array->size_elem);
+        pilaqsor *pila = pilaqsor_crea(static_cast<ULONG>(array->num_elems));
         Ordenacion{array, tabla, compara, pivote, temporal}.ordena(pila);
-    pilaqsor_destruye(&pila);
-    zarpspy_nousar_free_pp(&pivote, 1);
-    zarpspy_nousar_free_pp(&temporal, 1);
+        pilaqsor_destruye(&pila);
+        zarpspy_nousar_free_pp(&pivote, 1);
+        zarpspy_nousar_free_pp(&temporal, 1);
+    }
     array->en_bucle = FALSO;
 }

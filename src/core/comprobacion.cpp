@@ -15,16 +15,10 @@ constexpr const char *UBICACION = UBICACION_ARRAYPRV;
 std::atomic<BOOL> modo_sin_decidir{1};
 std::atomic<BOOL> modo_comprobacion{FALSO};
 
-// The invariants of the row tables of an array that has rows.
-void comprueba_filas(const ARRAY *array)
+// Each row exists and is not empty, its count fits its capacity and its capacity fits the
+// maximum row length.
+void comprueba_cada_fila(const ARRAY *array)
 {
-    ARR_EXIGE(array->num_filas < MAX_FILAS, "array->num_filas < INT_MAX / sizeof(char *) - 1");
-    const bool hay_tablas = ARR_EXIGE(array->long_filas, "array->long_filas") &
-                            ARR_EXIGE(array->max_long_filas, "array->max_long_filas") &
-                            ARR_EXIGE(array->buffer, "array->buffer") &
-                            (array->acumulado_filas != nullptr);
-    if (!hay_tablas)
-        return;
     for (size_t i = 0; i < array->num_filas; ++i) {
         ARR_EXIGE(array->buffer[i], "array->buffer[i]");
         ARR_EXIGE(array->long_filas[i] > 0, "array->long_filas[i] > 0");
@@ -33,6 +27,11 @@ void comprueba_filas(const ARRAY *array)
         ARR_EXIGE(array->max_long_filas[i] <= array->long_max_fila_en_elem,
                   "array->max_long_filas[i] <= array->long_max_fila_en_elem");
     }
+}
+
+// The prefix sums start at 0, are exact, and add up to num_elems.
+void comprueba_acumulados(const ARRAY *array)
+{
     ARR_EXIGE(array->acumulado_filas[0] == 0, "array->acumulado_filas[0] == 0");
     for (size_t i = 1; i < array->num_filas; ++i)
         ARR_EXIGE(array->acumulado_filas[i] ==
@@ -45,12 +44,34 @@ void comprueba_filas(const ARRAY *array)
               "array->long_filas[array->num_filas - 1] == array->num_elems");
 }
 
+// The invariants of the row tables of an array that has rows. A row count beyond the limit or a
+// missing table ends this part of the check: the tables cannot be walked then.
+void comprueba_filas(const ARRAY *array)
+{
+    if (!ARR_EXIGE(array->num_filas < MAX_FILAS, "array->num_filas < INT_MAX / sizeof(char *) - 1"))
+        return;
+    const bool hay_long_filas = ARR_EXIGE(array->long_filas, "array->long_filas");
+    const bool hay_max_long_filas = ARR_EXIGE(array->max_long_filas, "array->max_long_filas");
+    const bool hay_buffer = ARR_EXIGE(array->buffer, "array->buffer");
+    if (!(hay_long_filas && hay_max_long_filas && hay_buffer))
+        return;
+    comprueba_cada_fila(array);
+    // The prefix-sum table itself is not an invariant of its own; without it there is nothing
+    // to compare.
+    if (array->acumulado_filas != nullptr)
+        comprueba_acumulados(array);
+}
+
 } // namespace
 
 BOOL arrayprv_es_modo_comprobacion()
 {
-    if (modo_sin_decidir.exchange(0) != 0)
+    // The mode is stored before the flag is cleared, so no caller sees the flag cleared and the
+    // mode still unset; threads that arrive together all read the environment and store the same.
+    if (modo_sin_decidir != 0) {
         modo_comprobacion = std::getenv("ARRAYPRUEBA") != nullptr ? CIERTO : FALSO;
+        modo_sin_decidir = 0;
+    }
     return modo_comprobacion;
 }
 

@@ -47,12 +47,12 @@ extern "C" ARRAYS_API void zarpstr_destruye(char **cadena) noexcept
 
 void zarpstr_destruyeListaCadenas(ULONG num, void *tabla)
 {
-    void ***celda = static_cast<void ***>(tabla);
-    if (celda == nullptr || *celda == nullptr)
+    auto **bloques = static_cast<void **>(tabla != nullptr ? zarpspy_lee_puntero(tabla) : nullptr);
+    if (bloques == nullptr)
         return;
     for (ULONG i = 0; i < num; ++i)
-        zarpspy_nousar_free_pp(&(*celda)[i], 1);
-    zarpspy_nousar_free_pp(celda, sizeof(void *));
+        zarpspy_nousar_free_pp(&bloques[i], 1);
+    zarpspy_nousar_free_pp(tabla, sizeof(void *));
 }
 
 int cad_cadenas_compara(const char *a, const char *b)

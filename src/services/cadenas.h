@@ -8,6 +8,8 @@
 #include "arrays.h"
 
 // cad_copia_cadena and zarpstr_destruye are exported; see arrays.h.
+// Frees the `num` blocks listed in the table whose address is `tabla`, then the table, and sets
+// the table pointer to NULL (that pointer may be unaligned, as in the packed array header).
 void zarpstr_destruyeListaCadenas(ULONG num, void *tabla);
 int cad_cadenas_compara(const char *a, const char *b);
 BOOL cad_cadenas_iguales(const char *a, const char *b);

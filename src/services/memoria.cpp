@@ -121,13 +121,13 @@ void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo)
 
 void zarpspy_nousar_free_pp(void *puntero, size_t)
 {
-    void **celda = static_cast<void **>(puntero);
-    if (celda == nullptr || *celda == nullptr)
+    void *bloque = puntero != nullptr ? zarpspy_lee_puntero(puntero) : nullptr;
+    if (bloque == nullptr)
         return;
-    void *base = base_de(*celda);
+    void *base = base_de(bloque);
     cuenta_baja(tamanyo_de(base));
     std::free(base);
-    *celda = nullptr;
+    zarpspy_escribe_puntero(puntero, nullptr);
 }
 
 void *zarpspy_reserva_cabecera(size_t tamanyo)
@@ -139,12 +139,12 @@ void *zarpspy_reserva_cabecera(size_t tamanyo)
 
 void zarpspy_libera_cabecera(void *puntero)
 {
-    void **celda = static_cast<void **>(puntero);
-    if (celda == nullptr || *celda == nullptr)
+    void *cabecera = puntero != nullptr ? zarpspy_lee_puntero(puntero) : nullptr;
+    if (cabecera == nullptr)
         return;
     cuenta_baja(pool().tamanyo_slot);
-    pool().libera(*celda);
-    *celda = nullptr;
+    pool().libera(cabecera);
+    zarpspy_escribe_puntero(puntero, nullptr);
 }
 
 size_t zarpspy_bloques_vivos() { return bloques_vivos.load(std::memory_order_relaxed); }

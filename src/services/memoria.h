@@ -5,12 +5,13 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 
 void *zarpspy_nousar_malloc(size_t tamanyo);
 void *zarpspy_nousar_calloc(size_t num, size_t tamanyo);
 void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo);
 // Frees the block *puntero holds (nothing if NULL) and sets *puntero to NULL. `tamanyo_item`
-// only says what the block holds.
+// only says what the block holds. The slot may be unaligned: the array header is packed.
 void zarpspy_nousar_free_pp(void *puntero, size_t tamanyo_item);
 
 // A header-sized slot from the type-stable pool, and its return to the pool (*puntero is set to
@@ -21,3 +22,16 @@ void zarpspy_libera_cabecera(void *puntero);
 // What is allocated now, through this service and the header pool.
 size_t zarpspy_bloques_vivos();
 size_t zarpspy_bytes_vivos();
+
+// The pointer held in a slot that may be unaligned, and its replacement: pointers inside the
+// packed array header sit on 2-byte boundaries.
+inline void *zarpspy_lee_puntero(const void *celda)
+{
+    void *puntero;
+    std::memcpy(&puntero, celda, sizeof puntero);
+    return puntero;
+}
+inline void zarpspy_escribe_puntero(void *celda, void *puntero)
+{
+    std::memcpy(celda, &puntero, sizeof puntero);
+}

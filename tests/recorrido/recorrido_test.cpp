@@ -45,7 +45,7 @@ TEST_F(Recorrido, EmptyArrayTraversalCallsNoActionAndLeavesBothFlagsClear)
 TEST_F(Recorrido, VisitsEveryElementOfEveryRowInStorageOrder)
 {
     ARRAY *array = crea_indices(600);
-    ASSERT_EQ(array->num_filas, 3u);
+    ASSERT_EQ(size_t{array->num_filas}, 3u); // a copy: the header is packed
     std::vector<double> visitados;
     arr_nousar_RecorreDouble(array, anota_valor, &visitados, UBICACION_PRUEBA, __LINE__);
     EXPECT_EQ(visitados, indices(600));

@@ -153,6 +153,20 @@ TEST_F(CadenasEstrechas, DestroyingAListFreesEveryBlockAndTheTable)
     EXPECT_EQ(zarpspy_bloques_vivos(), bloques);
 }
 
+TEST_F(CadenasEstrechas, DestroyingAListThroughAnUnalignedTablePointerClearsIt)
+{
+    const size_t bloques = zarpspy_bloques_vivos();
+    auto **tabla = static_cast<char **>(zarpspy_nousar_malloc(2 * sizeof(char *)));
+    tabla[0] = cad_copia_cadena("fila");
+    tabla[1] = cad_copia_cadena("fila");
+    alignas(8) unsigned char cabecera_empaquetada[16] = {};
+    unsigned char *celda = cabecera_empaquetada + 6;
+    zarpspy_escribe_puntero(celda, tabla);
+    zarpstr_destruyeListaCadenas(2, celda);
+    EXPECT_EQ(zarpspy_lee_puntero(celda), nullptr);
+    EXPECT_EQ(zarpspy_bloques_vivos(), bloques);
+}
+
 TEST_F(CadenasEstrechas, FormatWritesAsPrintf)
 {
     char *texto = nousar_formatea("%s=%d (%.2f)", "x", 42, 1.5);

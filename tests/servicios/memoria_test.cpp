@@ -94,6 +94,18 @@ TEST_F(Memoria, FreeingANullPointerOrANullAddressChangesNothing)
     EXPECT_EQ(balance.bytes(), 0u);
 }
 
+TEST_F(Memoria, FreeingThroughAnUnalignedSlotClearsIt)
+{
+    const Balance balance;
+    alignas(8) unsigned char cabecera_empaquetada[16] = {};
+    unsigned char *celda = cabecera_empaquetada + 2;
+    zarpspy_escribe_puntero(celda, zarpspy_nousar_malloc(8));
+    EXPECT_EQ(balance.bloques(), 1u);
+    zarpspy_nousar_free_pp(celda, 1);
+    EXPECT_EQ(zarpspy_lee_puntero(celda), nullptr);
+    EXPECT_EQ(balance.bloques(), 0u);
+}
+
 TEST_F(Memoria, HeaderSlotIsCountedUntilReturnedToThePool)
 {
     const Balance balance;

@@ -1,0 +1,49 @@
+// Without ARRAYPRUEBA the cheap entry checks run: a corrupted header goes unnoticed, and a running
+// read traversal is seen by an operation that modifies the array.
+#include "soporte/prueba_arrays.h"
+
+#include "core/arrayprv.h"
+#include "modo_comprobacion/escenarios.h"
+
+#include <cstdlib>
+
+namespace {
+
+using SinModoComprobacion = PruebaArrays;
+
+TEST_F(SinModoComprobacion, ModeIsOffWithoutArrayPrueba)
+{
+    ASSERT_EQ(std::getenv("ARRAYPRUEBA"), nullptr) << "this program runs without ARRAYPRUEBA";
+    EXPECT_EQ(arrayprv_es_modo_comprobacion(), FALSO);
+}
+
+TEST_F(SinModoComprobacion, ModeStaysOffWhenTheVariableIsSetLater)
+{
+    arrayprv_es_modo_comprobacion();
+    setenv("ARRAYPRUEBA", "", 1);
+    EXPECT_EQ(arrayprv_es_modo_comprobacion(), FALSO);
+    unsetenv("ARRAYPRUEBA");
+}
+
+TEST_F(SinModoComprobacion, AppendOnCorruptedPrefixSumsIsNotReported)
+{
+    ARRAY *array = crea_con_suma_corrupta();
+    arr_AppendDouble(array, 1);
+    EXPECT_EQ(informes(), Textos{});
+    EXPECT_EQ(arr_NumElemsDouble(array), 301u);
+    EXPECT_EQ(arr_GetDouble(array, 300), 1.0);
+    repara_suma(array);
+    arr_DestruyeDouble(&array);
+}
+
+TEST_F(SinModoComprobacion, AppendInsideAReadTraversalReportsTheReadFlag)
+{
+    ARRAY *array = arr_CreaDouble(3);
+    append_dentro_de_lectura(array);
+    EXPECT_EQ(informes(), Textos{"array->en_bucle_lectura == FALSO"});
+    EXPECT_EQ(arr_NumElemsDouble(array), 4u);
+    EXPECT_EQ(arr_GetDouble(array, 3), 7.0);
+    arr_DestruyeDouble(&array);
+}
+
+} // namespace

@@ -25,27 +25,35 @@ void suma_acumulados(ARRAY *array, size_t desde, size_t hasta, size_t delta)
         array->acumulado_filas[i] += delta;
 }
 
-template <typename T> void redimensiona(T *&tabla, size_t num)
+// The header is packed, so its table pointers may sit at unaligned addresses: the tables are
+// resized and freed through aligned copies of the pointers, never through references to them.
+template <typename T> T *redimensionada(T *tabla, size_t num)
 {
-    tabla = static_cast<T *>(zarpspy_nousar_realloc(tabla, num * sizeof(T)));
+    return static_cast<T *>(zarpspy_nousar_realloc(tabla, num * sizeof(T)));
+}
+
+template <typename T> T *liberada(T *tabla)
+{
+    zarpspy_nousar_free_pp(&tabla, sizeof(T));
+    return tabla;
 }
 
 // Resizes the four tables to `num` entries, in the order buffer, long_filas, max_long_filas,
 // acumulado_filas.
 void redimensiona_tablas(ARRAY *array, size_t num)
 {
-    redimensiona(array->buffer, num);
-    redimensiona(array->long_filas, num);
-    redimensiona(array->max_long_filas, num);
-    redimensiona(array->acumulado_filas, num);
+    array->buffer = redimensionada(array->buffer, num);
+    array->long_filas = redimensionada(array->long_filas, num);
+    array->max_long_filas = redimensionada(array->max_long_filas, num);
+    array->acumulado_filas = redimensionada(array->acumulado_filas, num);
 }
 
 void libera_tablas(ARRAY *array)
 {
-    zarpspy_nousar_free_pp(&array->buffer, sizeof(char *));
-    zarpspy_nousar_free_pp(&array->long_filas, sizeof(size_t));
-    zarpspy_nousar_free_pp(&array->max_long_filas, sizeof(size_t));
-    zarpspy_nousar_free_pp(&array->acumulado_filas, sizeof(size_t));
+    array->buffer = liberada(array->buffer);
+    array->long_filas = liberada(array->long_filas);
+    array->max_long_filas = liberada(array->max_long_filas);
+    array->acumulado_filas = liberada(array->acumulado_filas);
 }
 
 char *nueva_fila(const ARRAY *array, size_t capacidad)

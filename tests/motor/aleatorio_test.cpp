@@ -77,7 +77,7 @@ public:
             if (paso % PASOS_POR_COMPARACION == 0) {
                 ASSERT_EQ(contenido(array_), modelo_);
             }
-            filas_vistas_ = std::max<size_t>(filas_vistas_, array_->num_filas);
+            filas_vistas_ = std::max(filas_vistas_, size_t{array_->num_filas});
         }
         ASSERT_EQ(contenido(array_), modelo_);
     }

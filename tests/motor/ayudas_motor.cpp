@@ -5,11 +5,10 @@
 
 namespace {
 
-std::vector<size_t> tabla(const ARRAY *array, size_t *ARRAY::*miembro)
+// A row table of num_filas entries as a vector (empty when the table is NULL).
+std::vector<size_t> tabla(const size_t *datos, size_t num_filas)
 {
-    const size_t *datos = array->*miembro;
-    return datos == nullptr ? std::vector<size_t>{}
-                            : std::vector<size_t>(datos, datos + array->num_filas);
+    return datos == nullptr ? std::vector<size_t>{} : std::vector<size_t>(datos, datos + num_filas);
 }
 
 } // namespace
@@ -64,9 +63,20 @@ bool sin_filas(const ARRAY *array)
            array->max_long_filas == nullptr && array->acumulado_filas == nullptr;
 }
 
-std::vector<size_t> longitudes(const ARRAY *array) { return tabla(array, &ARRAY::long_filas); }
-std::vector<size_t> capacidades(const ARRAY *array) { return tabla(array, &ARRAY::max_long_filas); }
-std::vector<size_t> acumulados(const ARRAY *array) { return tabla(array, &ARRAY::acumulado_filas); }
+std::vector<size_t> longitudes(const ARRAY *array)
+{
+    return tabla(array->long_filas, array->num_filas);
+}
+
+std::vector<size_t> capacidades(const ARRAY *array)
+{
+    return tabla(array->max_long_filas, array->num_filas);
+}
+
+std::vector<size_t> acumulados(const ARRAY *array)
+{
+    return tabla(array->acumulado_filas, array->num_filas);
+}
 
 double double_en(const ARRAY *array, size_t fila, size_t pos)
 {

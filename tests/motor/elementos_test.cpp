@@ -232,7 +232,7 @@ TEST_F(Borrar, DeletingTheOnlyElementOfARowRemovesTheRow)
 TEST_F(Borrar, DeletingTheLastElementOfTheArrayLeavesNoRows)
 {
     ARRAY *array = crea_doubles_anyadidos(12, FILAS_DE_5);
-    ASSERT_EQ(array->num_filas, 3u);
+    ASSERT_EQ(size_t{array->num_filas}, 3u);
     while (arr_NumElemsDouble(array) > 0)
         arr_BorrarDouble(array, 0);
     EXPECT_TRUE(sin_filas(array));

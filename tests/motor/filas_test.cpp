@@ -50,7 +50,7 @@ TEST_F(Filas, AddedRowsContinueThePrefixSumsOfTheExistingRows)
     EXPECT_EQ(longitudes(array), (V{3, 256, 44}));
     EXPECT_EQ(capacidades(array), (V{11, 256, 44}));
     EXPECT_EQ(acumulados(array), (V{0, 3, 259}));
-    EXPECT_EQ(array->num_elems, 303u);
+    EXPECT_EQ(size_t{array->num_elems}, 303u);
     arr_DestruyeDouble(&array);
 }
 
@@ -103,7 +103,7 @@ TEST_F(Filas, RemovingARowOfAnArrayWithoutRowsIsReported)
     ARRAY *array = arr_CreaDouble(0);
     arrayprv_borra_fila(array, 0);
     EXPECT_EQ(informes(), Textos{"array->num_filas > 0"});
-    EXPECT_EQ(array->num_filas, 0u);
+    EXPECT_EQ(size_t{array->num_filas}, 0u);
     arr_DestruyeDouble(&array);
 }
 
@@ -128,7 +128,7 @@ TEST_F(Filas, RemovingTheOnlyElementOfTheOnlyRowFreesAllFourTables)
     arr_AppendDouble(array, 1.0);
     arr_BorrarDouble(array, 0);
     EXPECT_TRUE(sin_filas(array));
-    EXPECT_EQ(array->num_elems, 0u);
+    EXPECT_EQ(size_t{array->num_elems}, 0u);
     EXPECT_EQ(zarpspy_bloques_vivos(), bloques_sin_filas);
     arr_DestruyeDouble(&array);
 }

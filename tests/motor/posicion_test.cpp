@@ -59,7 +59,7 @@ TEST_F(Posicion, TheIndexAfterTheLastIsReportedAndNotFound)
 TEST_F(Posicion, TheWalkBelowTenRowsAgreesWithTheRowLengths)
 {
     ARRAY *array = crea_doubles_en_filas({5, 1, 17, 256, 3, 1, 40, 200, 9});
-    ASSERT_EQ(array->num_filas, 9u);
+    ASSERT_EQ(size_t{array->num_filas}, 9u);
     comprueba_todas_las_posiciones(array);
     arr_DestruyeDouble(&array);
 }
@@ -67,7 +67,7 @@ TEST_F(Posicion, TheWalkBelowTenRowsAgreesWithTheRowLengths)
 TEST_F(Posicion, TheBisectionFromTenRowsAgreesWithTheRowLengths)
 {
     ARRAY *array = crea_doubles_en_filas({5, 1, 17, 256, 3, 1, 40, 200, 9, 2});
-    ASSERT_EQ(array->num_filas, 10u);
+    ASSERT_EQ(size_t{array->num_filas}, 10u);
     comprueba_todas_las_posiciones(array);
     arr_DestruyeDouble(&array);
 }
@@ -76,7 +76,7 @@ TEST_F(Posicion, TheBisectionOverManyUnevenRowsAgreesWithTheRowLengths)
 {
     ARRAY *array = crea_doubles_en_filas({1, 1, 256, 2, 1, 99, 1, 1, 1, 30, 7, 1, 256, 3, 1, 64,
                                           1, 2, 1, 1, 5});
-    ASSERT_EQ(array->num_filas, 21u);
+    ASSERT_EQ(size_t{array->num_filas}, 21u);
     comprueba_todas_las_posiciones(array);
     arr_DestruyeDouble(&array);
 }
@@ -98,7 +98,7 @@ TEST_F(Posicion, TheWalkOffTheLastRowIsReportedAndNotFound)
 TEST_F(Posicion, TheBisectionPastTheLastRowIsReportedAndNotFound)
 {
     ARRAY *array = arrayprv_crea(100, elem_DOUBLE_NO_USAR, 10 * sizeof(double));
-    ASSERT_EQ(array->num_filas, 10u);
+    ASSERT_EQ(size_t{array->num_filas}, 10u);
     array->num_elems = 200;
     posicion_array posi{};
     EXPECT_FALSE(arrayprv_posicion(array, 150, &posi));

@@ -129,7 +129,7 @@ TEST_F(Reducir, CuttingMoreThanAnIntCountsAtOnceIsReported)
     arrayprv_recorta(array, 0);
     EXPECT_EQ(informes(), Textos{"array->num_elems - nuevo_tamanyo < INT_MAX"});
     EXPECT_TRUE(sin_filas(array));
-    EXPECT_EQ(array->num_elems, 0u);
+    EXPECT_EQ(size_t{array->num_elems}, 0u);
     arr_DestruyeDouble(&array);
 }
 
@@ -153,7 +153,7 @@ protected:
 TEST_F(Cadenas, ShrinkingAStringArrayToZeroDestroysEveryString)
 {
     arrayprv_reduce_tamanyo(array, 0);
-    EXPECT_EQ(array->num_elems, 0u);
+    EXPECT_EQ(size_t{array->num_elems}, 0u);
     EXPECT_EQ(zarpspy_bloques_vivos(), bloques_sin_cadenas + 1); // only the header
 }
 
@@ -222,7 +222,7 @@ TEST_P(Bits, CountBitsAndHoldThemInBytes)
     else
         arrayprv_reduce_tamanyo(array, cambio.bits_nuevos);
     EXPECT_EQ(arrayprv_num_elems(array), cambio.bits_nuevos);
-    EXPECT_EQ(array->num_elems, cambio.bytes_esperados);
+    EXPECT_EQ(size_t{array->num_elems}, cambio.bytes_esperados);
     arrayprv_destruye(&array);
 }
 
@@ -234,8 +234,8 @@ TEST_F(BitsBajoLaCuenta, GrowingBelowTheByteCountIsReportedButTakesTheBitCount)
     arrayprv_aumenta_tamanyo(array, 3);
     EXPECT_EQ(informes(),
               (Textos{"nuevo_tamanyo >= array->num_elems", "nuevo_tamanyo > array->num_elems"}));
-    EXPECT_EQ(array->num_bits, 3u);
-    EXPECT_EQ(array->num_elems, 2u);
+    EXPECT_EQ(ULONG{array->num_bits}, 3u);
+    EXPECT_EQ(size_t{array->num_elems}, 2u);
     arrayprv_destruye(&array);
 }
 

@@ -926,6 +926,82 @@ ARRAYS_API void arr_nousar_RecorrePunto3D(ARRAY *array, arr_accion_Punto3D accio
                                           const char *ubicacion, LONG linea) ARR_NOEXCEPT;
 
 /* ---- Plane geometry on 2D point arrays ------------------------------------------------------ */
+/* Arcs, ellipses and circles appended as polylines, and measures and edits of a polyline. Every
+ * function works on a 2D point array of either kind (plain or with private data; generated points
+ * get NULL data). Angles are radians, counter-clockwise from the positive x axis. sentido 0 runs
+ * counter-clockwise; the circular arcs and the circle take any other value as clockwise, the
+ * ellipses only 1 (pass 0 or 1). */
+
+/* Appends the arc about (xc, yc) from (x1, y1) to (x2, y2), both given points included as they
+ * are, with steps no longer than those of a circle of num_puntos points (at least 3) dividing the
+ * arc evenly; an arc shorter than 1.1 such steps gets only its two ends. When the ends lie at
+ * different distances from the centre the radius changes linearly with the angle. */
+ARRAYS_API void arr_AnyadirArcoPunto2D(ARRAY *array, double xc, double yc, double x1, double y1,
+                                       double x2, double y2, SHORT sentido,
+                                       ULONG num_puntos) ARR_NOEXCEPT;
+/* The same arc in exactly num_puntos points (at least 2), both ends included. */
+ARRAYS_API void arr_AnyadirArcoPunto2D_numPuntosArco(ARRAY *array, double xc, double yc,
+                                                     double x1, double y1, double x2, double y2,
+                                                     SHORT sentido, ULONG num_puntos) ARR_NOEXCEPT;
+/* The same arc with enough points that no side exceeds longitud_maxima_lado (> 0) on the larger
+ * of the two radii, and no fewer than a circle of num_puntos points would give it; at least 2. */
+ARRAYS_API void arr_AnyadirArcoPunto2D_con_longitud_maxima_lado(
+    ARRAY *array, double xc, double yc, double x1, double y1, double x2, double y2, SHORT sentido,
+    ULONG num_puntos, double longitud_maxima_lado) ARR_NOEXCEPT;
+/* Appends the arc of the ellipse about (xc, yc) with semi-axes semieje_x, semieje_y, turned
+ * counter-clockwise by angulo_giro, from the eccentric angle angulo_inicial to angulo_final (the
+ * ellipse's own angles, before the turn), a step of 2 pi / num_puntos apart. Equal angles give one
+ * point; angles a turn apart give the whole closed ellipse. A point closer than 1e-5 to the one
+ * before it is left out. */
+ARRAYS_API void arr_AnyadirArcoElipsePunto2D(ARRAY *array, double xc, double yc, double semieje_x,
+                                             double semieje_y, double angulo_inicial,
+                                             double angulo_final, double angulo_giro,
+                                             SHORT sentido, ULONG num_puntos) ARR_NOEXCEPT;
+/* The same arc, its step set by longitud_maxima_lado (> 0) on the larger semi-axis and by a
+ * circle of num_puntos points, whichever gives more points, and at most 10000 points. */
+ARRAYS_API void arr_AnyadirArcoElipsePunto2D_con_longitud_maxima_lado(
+    ARRAY *array, double xc, double yc, double semieje_x, double semieje_y, double angulo_inicial,
+    double angulo_final, double angulo_giro, SHORT sentido, ULONG num_puntos,
+    double longitud_maxima_lado) ARR_NOEXCEPT;
+/* Appends to an empty array the circle about (xc, yc) of radius radio as numPtosCirculo points
+ * (at least 3) from (xc + radio, yc), counter-clockwise for sentido 0 and mirrored otherwise;
+ * the first point is not repeated at the end. */
+ARRAYS_API void arr_AnyadirCirculoPunto2D(ARRAY *array, double xc, double yc, double radio,
+                                          SHORT sentido, ULONG numPtosCirculo) ARR_NOEXCEPT;
+
+/* Signed area of the polygon closed from the last point back to the first: positive when the
+ * points run counter-clockwise, negative clockwise, 0.0 for fewer than three points. */
+ARRAYS_API double arr_CalcularAreaPunto2D(const ARRAY *array) ARR_NOEXCEPT;
+/* Length of the open polyline. *indice_lado_mayor gets the index of the first point of its
+ * longest side (the first of equal ones) and *longitud_lado_mayor that side's length; with fewer
+ * than two points 0 is returned, with ARR_ULONG_MAX and -1.0. Either pointer may be NULL. */
+ARRAYS_API double arr_LongitudPunto2D(const ARRAY *array, ULONG *indice_lado_mayor,
+                                      double *longitud_lado_mayor) ARR_NOEXCEPT;
+/* Distance from (x, y) to the open polyline (to its only point when it has one); the nearest
+ * point of the polyline goes to the pointers that are not NULL. The array must not be empty. */
+ARRAYS_API double arr_DistanciaDePuntoAPolilineaAbiertaPunto2D(const ARRAY *array, double x,
+                                                               double y, double *x_cercano,
+                                                               double *y_cercano) ARR_NOEXCEPT;
+/* The same for the polyline closed by a side from its last point back to the first. */
+ARRAYS_API double arr_DistanciaDePuntoAPolilineaCerradaPunto2D(const ARRAY *array, double x,
+                                                               double y, double *x_cercano,
+                                                               double *y_cercano) ARR_NOEXCEPT;
+/* The point of the array nearest to (x, y) (the lowest index among equally near ones): its
+ * coordinates, index and distance go to the pointers that are not NULL. The array must not be
+ * empty. */
+ARRAYS_API void arr_IndicePolilineaMasCercanoAPuntoReferenciaPunto2D(
+    const ARRAY *array, double x, double y, double *x_cercano, double *y_cercano, ULONG *indice,
+    double *distancia) ARR_NOEXCEPT;
+/* Deletes every point equal to the one before it (each coordinate within 1e-9); the first and
+ * last points are not compared with each other. *num_eliminados (if not NULL) gets how many. */
+ARRAYS_API void arr_EliminarPuntosContiguosRepetidosPunto2D(ARRAY *array,
+                                                            ULONG *num_eliminados) ARR_NOEXCEPT;
+/* Deletes, from the start, every point closer than tolerancia to the line through its two
+ * neighbours (the neighbours as they are after earlier deletions); point 0 always stays. With
+ * cerrada 1 the polyline is taken as closed back to point 0: that needs a plain 2D point array
+ * (one with private data is refused) that is not empty. */
+ARRAYS_API void arr_eliminar_contenidos_entre_dos_puntos_polilinea_Punto2D(
+    ARRAY *array, SHORT cerrada, double tolerancia) ARR_NOEXCEPT;
 
 #ifdef __cplusplus
 }

@@ -83,8 +83,10 @@ Barrido orienta_barrido(double alfa1, double alfa2, SHORT sentido);
 
 // How the circular generators count their points.
 enum class Cuenta {
-    circulo = 0, // num_puntos is the count of the whole circle; the step is the circle's, evened out
-    arco = 1     // num_puntos is the count of the arc, both end points included
+    // num_puntos is the count of the whole circle; the arc takes the circle's step, evened out.
+    circulo = 0,
+    // num_puntos is the count of the arc, both end points included.
+    arco = 1
 };
 
 // The angular step between the vertices of an arc of `arco` radians, and whether only the two end

@@ -203,8 +203,8 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
 #define ARR_IGUALES_CON_ARR_ENTERO(F)
 #define ARR_IGUALES_CON_ARR_REAL(F) , arr_igualdad_##F igualdad
 
-/*  family   value type  tag                   compares      AppendN Aumenta Reduce
- *                                                          Sumar             Sumatorio Recorre */
+/*  X(family, value type, tag, compares, AppendN, AumentaTamanyo, ReduceTamanyo,
+ *    Sumar (its delta type), Sumatorio, arr_nousar_Recorre) */
 #define ARR_FAMILIAS_ESCALARES(X)                                                                 \
     X(BOOL, BOOL, elem_BOOL_NO_USAR, ARR_BOOLEANO, ARR_SI, ARR_SI, ARR_SI,                        \
       ARR_NO, ARR_NO, ARR_SI)                                                                     \

@@ -13,7 +13,7 @@ TEST_F(Arulong, CreatedArrayIsEmpty)
 {
     ARRAY *array = arulong_crea();
     EXPECT_EQ(arulong_numelems(array), 0u);
-    EXPECT_EQ(array->tipo_elem, elem_ULONG_NO_USAR);
+    EXPECT_EQ(tipo_elem_array{array->tipo_elem}, elem_ULONG_NO_USAR);
     arulong_destruye(&array);
     EXPECT_EQ(array, nullptr);
 }
@@ -61,7 +61,7 @@ TEST_F(Arulong, AnArrayOfTheULongFamilyServesTheSecondNames)
 TEST_F(Arulong, SixtyFourBitCreatedArrayIsAnEmptyULong64Array)
 {
     ARRAY *array = arulong64_crea();
-    EXPECT_EQ(array->tipo_elem, elem_ULONG64_NO_USAR);
+    EXPECT_EQ(tipo_elem_array{array->tipo_elem}, elem_ULONG64_NO_USAR);
     EXPECT_EQ(arulong64_numelems(array), 0u);
     arr_AppendULong64(array, UINT64_MAX);
     EXPECT_EQ(arulong64_get(array, 0), UINT64_MAX);

@@ -21,7 +21,7 @@ TEST_F(Bits, TenBitsAreTenFalseBitsInTwoBytes)
 {
     ARRAY *array = arr_CreaBIT(10);
     EXPECT_EQ(arr_NumElemsBIT(array), 10u);
-    EXPECT_EQ(array->num_elems, 2u);
+    EXPECT_EQ(size_t{array->num_elems}, 2u);
     EXPECT_EQ(bits_de(array), std::vector<BOOL>(10, FALSO));
     arr_DestruyeBIT(&array);
     EXPECT_EQ(array, nullptr);
@@ -42,7 +42,7 @@ TEST_F(Bits, NineAppendedBitsUseTwoBytes)
     for (int i = 0; i < 9; ++i)
         arr_AppendBIT(array, i % 3 == 0 ? CIERTO : FALSO);
     EXPECT_EQ(arr_NumElemsBIT(array), 9u);
-    EXPECT_EQ(array->num_elems, 2u);
+    EXPECT_EQ(size_t{array->num_elems}, 2u);
     EXPECT_EQ(bits_de(array),
               (std::vector<BOOL>{CIERTO, FALSO, FALSO, CIERTO, FALSO, FALSO, CIERTO, FALSO, FALSO}));
     arr_DestruyeBIT(&array);
@@ -101,16 +101,16 @@ TEST_F(Bits, APositionPastTheStoredBytesIsReportedTwiceAndReadsFalse)
     EXPECT_EQ(informes(), (Textos{"pos < array->num_bits", "real_pos < array->num_elems"}));
     arr_SetBIT(array, 8, CIERTO);
     EXPECT_EQ(informes(), (Textos{"pos < array->num_bits", "real_pos < array->num_elems"}));
-    EXPECT_EQ(array->num_elems, 1u);
+    EXPECT_EQ(size_t{array->num_elems}, 1u);
     arr_DestruyeBIT(&array);
 }
 
 TEST_F(Bits, AppendIntoTheLastByteFollowsTheRowLayout)
 {
     ARRAY *array = arr_CreaBIT(2048 * 8 + 1);
-    ASSERT_EQ(array->num_filas, 2u);
+    ASSERT_EQ(size_t{array->num_filas}, 2u);
     arr_AppendBIT(array, CIERTO);
-    EXPECT_EQ(array->num_elems, 2049u);
+    EXPECT_EQ(size_t{array->num_elems}, 2049u);
     EXPECT_EQ(arr_GetBIT(array, 2048 * 8 + 1), CIERTO);
     EXPECT_EQ(arr_GetBIT(array, 2048 * 8), FALSO);
     arr_DestruyeBIT(&array);
@@ -176,10 +176,10 @@ TEST_F(Bits, GrowingAndShrinkingCountInBits)
     ARRAY *array = arr_CreaBIT(3);
     arr_AumentaTamanyoBIT(array, 20);
     EXPECT_EQ(arr_NumElemsBIT(array), 20u);
-    EXPECT_EQ(array->num_elems, 3u);
+    EXPECT_EQ(size_t{array->num_elems}, 3u);
     arr_ReduceTamanyoBIT(array, 9);
     EXPECT_EQ(arr_NumElemsBIT(array), 9u);
-    EXPECT_EQ(array->num_elems, 2u);
+    EXPECT_EQ(size_t{array->num_elems}, 2u);
     arr_DestruyeBIT(&array);
 }
 

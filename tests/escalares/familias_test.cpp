@@ -67,8 +67,8 @@ TYPED_TEST(Familias, CreatedArrayHoldsZeroElements)
 TYPED_TEST(Familias, CreatedArrayHasTheFamilysTag)
 {
     ARRAY *array = TypeParam::crea(0);
-    EXPECT_EQ(array->tipo_elem, TypeParam::tag);
-    EXPECT_EQ(array->size_elem, sizeof(typename TypeParam::Valor));
+    EXPECT_EQ(tipo_elem_array{array->tipo_elem}, TypeParam::tag);
+    EXPECT_EQ(size_t{array->size_elem}, sizeof(typename TypeParam::Valor));
     TypeParam::destruye(&array);
 }
 
@@ -100,11 +100,11 @@ TYPED_TEST(Familias, InsertIntoAFullRowSpillsItsLastElementIntoTheNextRow)
 {
     constexpr ULONG max = elementos_por_fila<TypeParam>();
     ARRAY *array = TypeParam::crea(max + 1);
-    ASSERT_EQ(array->num_filas, 2u);
+    ASSERT_EQ(size_t{array->num_filas}, 2u);
     ASSERT_EQ(array->long_filas[0], max);
     TypeParam::set(array, max - 1, this->uno);
     TypeParam::inserta(array, 0, this->uno);
-    EXPECT_EQ(array->num_filas, 2u);
+    EXPECT_EQ(size_t{array->num_filas}, 2u);
     EXPECT_EQ(array->long_filas[0], max);
     EXPECT_EQ(array->long_filas[1], 2u);
     std::vector<typename TypeParam::Valor> esperado(max + 2, this->cero);
@@ -118,10 +118,10 @@ TYPED_TEST(Familias, InsertIntoFullLastRowSplitsIt)
 {
     constexpr ULONG max = elementos_por_fila<TypeParam>();
     ARRAY *array = TypeParam::crea(max);
-    ASSERT_EQ(array->num_filas, 1u);
+    ASSERT_EQ(size_t{array->num_filas}, 1u);
     TypeParam::set(array, max - 1, this->uno);
     TypeParam::inserta(array, 0, this->uno);
-    ASSERT_EQ(array->num_filas, 2u);
+    ASSERT_EQ(size_t{array->num_filas}, 2u);
     EXPECT_EQ(array->long_filas[0], max - max / 2 + 1);
     EXPECT_EQ(array->long_filas[1], max / 2);
     std::vector<typename TypeParam::Valor> esperado(max + 1, this->cero);
@@ -246,7 +246,7 @@ TYPED_TEST(ConPredicado, DefaultSortMatchesStdSort)
     ARRAY *array = TypeParam::crea(0);
     for (V valor : valores)
         TypeParam::append(array, valor);
-    ASSERT_GT(array->num_filas, 1u);
+    ASSERT_GT(size_t{array->num_filas}, 1u);
     TypeParam::ordena(array, nullptr);
     std::sort(valores.begin(), valores.end(), precede<V>);
     EXPECT_EQ(this->contenido(array), valores);

@@ -16,7 +16,8 @@ constexpr const char *UBICACION = "a_bit (ARRAYS.DLL)";
 bool es_array_de_bits(const ARRAY *array)
 {
     return ARR_EXIGE(array != nullptr, "(array) != NULL") &&
-           ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, "array->mascara_debug == MASCARA_DEBUG") &&
+           ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG,
+                     "array->mascara_debug == MASCARA_DEBUG") &&
            ARR_EXIGE(array->tipo_elem == elem_BIT_NO_USAR, "array->tipo_elem == elem_BIT_NO_USAR");
 }
 

@@ -23,6 +23,14 @@ struct ReglaVeces {
 
 template <tipo_elem_array TAG> struct Escalar;
 
+// The value stored at an element's address; rows are byte buffers, so it is read by copy.
+template <typename T> T lee_elemento(const void *elemento)
+{
+    T valor;
+    std::memcpy(&valor, elemento, sizeof valor);
+    return valor;
+}
+
 // An integer family: an optional predicate in searches, exact equality of arrays.
 template <typename Valor, auto Accion, auto Igualdad, auto Orden> struct Entero {
     using T = Valor;
@@ -141,10 +149,8 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
 
     static T get(const ARRAY *array, ULONG pos)
     {
-        T valor{};
-        if (const void *elemento = arrayprv_get(array, pos, TAG))
-            std::memcpy(&valor, elemento, sizeof valor);
-        return valor;
+        const void *elemento = arrayprv_get(array, pos, TAG);
+        return elemento != nullptr ? lee_elemento<T>(elemento) : T{};
     }
 
     static void set(ARRAY *array, ULONG pos, T valor) { arrayprv_set(array, pos, &valor, TAG); }

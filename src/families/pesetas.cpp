@@ -19,8 +19,7 @@ extern "C" void arr_cambio_precio_pesetas_a_euros(ARRAY *array) noexcept
         const void *elemento = arrayprv_get(array, i, elem_DOUBLE_NO_USAR);
         if (elemento == nullptr)
             return;
-        double pesetas;
-        std::memcpy(&pesetas, elemento, sizeof pesetas);
+        const double pesetas = lee_elemento<double>(elemento);
         Double::set(array, i,
                     prec_redondea_numero_decimales(pesetas / PESETAS_POR_EURO, DECIMALES_DEL_EURO));
     }

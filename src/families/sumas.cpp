@@ -88,16 +88,15 @@ template <> struct Suma<elem_ULONG64_NO_USAR> {
 
 // Reaches the element through the engine's element access with the family's tag; nothing is
 // summed when the element cannot be reached.
-template <tipo_elem_array TAG, typename Delta> void suma_en_sitio(ARRAY *array, ULONG pos, Delta delta)
+template <tipo_elem_array TAG, typename Delta>
+void suma_en_sitio(ARRAY *array, ULONG pos, Delta delta)
 {
     using T = typename Escalar<TAG>::T;
     void *elemento = arrayprv_get(array, pos, TAG);
     if (elemento == nullptr)
         return;
-    T valor;
-    std::memcpy(&valor, elemento, sizeof valor);
-    valor = Suma<TAG>::suma(valor, delta);
-    std::memcpy(elemento, &valor, sizeof valor);
+    const T suma = Suma<TAG>::suma(lee_elemento<T>(elemento), delta);
+    std::memcpy(elemento, &suma, sizeof suma);
 }
 
 } // namespace

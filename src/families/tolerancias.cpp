@@ -24,13 +24,6 @@ BOOL iguales_por_pares(const ARRAY *array1, const ARRAY *array2, tipo_elem_array
     return todos ? CIERTO : FALSO;
 }
 
-template <typename T> T lee(const char *elemento)
-{
-    T valor;
-    std::memcpy(&valor, elemento, sizeof valor);
-    return valor;
-}
-
 // The pointer arrays' elements are arrays, compared pairwise by `iguales_internos`.
 template <typename IgualesInternos>
 BOOL iguales_arrays_de_arrays(const ARRAY *array1, const ARRAY *array2, double tolerancia,
@@ -38,9 +31,9 @@ BOOL iguales_arrays_de_arrays(const ARRAY *array1, const ARRAY *array2, double t
 {
     return iguales_por_pares(array1, array2, elem_PUNTERO_NO_USAR,
                              [&](const char *elemento1, const char *elemento2) {
-                                 return iguales_internos(lee<const ARRAY *>(elemento1),
-                                                         lee<const ARRAY *>(elemento2),
-                                                         tolerancia) != FALSO;
+                                 const auto *interno1 = lee_elemento<const ARRAY *>(elemento1);
+                                 const auto *interno2 = lee_elemento<const ARRAY *>(elemento2);
+                                 return iguales_internos(interno1, interno2, tolerancia) != FALSO;
                              });
 }
 
@@ -52,8 +45,9 @@ extern "C" BOOL arr_SonIgualesDoubleConTolerancia(const ARRAY *array1, const ARR
 {
     return iguales_por_pares(array1, array2, elem_DOUBLE_NO_USAR,
                              [&](const char *elemento1, const char *elemento2) {
-                                 return !(std::fabs(lee<double>(elemento1) - lee<double>(elemento2)) >
-                                          tolerancia);
+                                 const double a = lee_elemento<double>(elemento1);
+                                 const double b = lee_elemento<double>(elemento2);
+                                 return !(std::fabs(a - b) > tolerancia);
                              });
 }
 

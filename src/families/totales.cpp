@@ -17,13 +17,6 @@ bool es_array_double(const ARRAY *array)
                      "array->tipo_elem == elem_DOUBLE_NO_USAR");
 }
 
-double lee_double(const char *elemento)
-{
-    double valor;
-    std::memcpy(&valor, elemento, sizeof valor);
-    return valor;
-}
-
 // The elements added in position order through the family's element read.
 template <tipo_elem_array TAG> typename Escalar<TAG>::T sumatorio(const ARRAY *array)
 {
@@ -39,7 +32,9 @@ template <> double sumatorio<elem_DOUBLE_NO_USAR>(const ARRAY *array)
 {
     double total = 0.0;
     if (es_array_double(array))
-        arrayprv_visita_todos(array, [&](const char *elemento) { total += lee_double(elemento); });
+        arrayprv_visita_todos(array, [&](const char *elemento) {
+            total += lee_elemento<double>(elemento);
+        });
     return total;
 }
 
@@ -66,7 +61,7 @@ extern "C" void arr_MinimoMaximoDouble(const ARRAY *array, double *minimo, ULONG
         // Invariant: menor and mayor are the extremes of the elements before pos, each at the
         // first position that holds it; a NaN is never strictly smaller or greater.
         arrayprv_visita_todos(array, [&](const char *elemento) {
-            const double valor = lee_double(elemento);
+            const double valor = lee_elemento<double>(elemento);
             if (valor < menor) {
                 menor = valor;
                 pos_menor = pos;

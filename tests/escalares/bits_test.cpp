@@ -44,7 +44,8 @@ TEST_F(Bits, NineAppendedBitsUseTwoBytes)
     EXPECT_EQ(arr_NumElemsBIT(array), 9u);
     EXPECT_EQ(size_t{array->num_elems}, 2u);
     EXPECT_EQ(bits_de(array),
-              (std::vector<BOOL>{CIERTO, FALSO, FALSO, CIERTO, FALSO, FALSO, CIERTO, FALSO, FALSO}));
+              (std::vector<BOOL>{CIERTO, FALSO, FALSO, CIERTO, FALSO, FALSO, CIERTO, FALSO,
+                                 FALSO}));
     arr_DestruyeBIT(&array);
 }
 

@@ -74,7 +74,10 @@ struct NombreFamilia {
 };
 
 // The most elements a row of the family holds (rows of 2048 bytes).
-template <typename F> constexpr ULONG elementos_por_fila() { return 2048 / sizeof(typename F::Valor); }
+template <typename F> constexpr ULONG elementos_por_fila()
+{
+    return 2048 / sizeof(typename F::Valor);
+}
 
 // An exact equality predicate, for the families that need one.
 template <typename V> BOOL iguales_exactos(V a, V b) { return a == b ? CIERTO : FALSO; }

@@ -231,7 +231,8 @@ TYPED_TEST(Familias, ExistsUniqueFindsTheOnlyMatchWithoutReport)
 {
     ARRAY *array = this->con({this->cero, this->uno, this->cero});
     ULONG posicion = 0;
-    EXPECT_EQ(con_igualdad<TypeParam>(TypeParam::existe_unico, array, this->uno, &posicion), CIERTO);
+    EXPECT_EQ(con_igualdad<TypeParam>(TypeParam::existe_unico, array, this->uno, &posicion),
+              CIERTO);
     EXPECT_EQ(posicion, 1u);
     TypeParam::destruye(&array);
 }
@@ -258,7 +259,9 @@ TYPED_TEST(Familias, SortWithTheCallersComparatorFollowsIt)
     using V = typename TypeParam::Valor;
     ARRAY *array = this->con({this->cero, this->uno, this->cero, this->uno});
     const auto descendente = [](V a, V b) -> int {
-        return a == b ? comparac_IGUALES : (b < a ? comparac_PRIMERO_MENOR : comparac_PRIMERO_MAYOR);
+        if (a == b)
+            return comparac_IGUALES;
+        return b < a ? comparac_PRIMERO_MENOR : comparac_PRIMERO_MAYOR;
     };
     TypeParam::ordena(array, descendente);
     EXPECT_EQ(this->contenido(array), (std::vector{this->uno, this->uno, this->cero, this->cero}));

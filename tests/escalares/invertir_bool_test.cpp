@@ -13,7 +13,8 @@ TEST_F(InvertirBOOL, FiveElementsKeepTheMiddleOneInPlace)
 {
     ARRAY *array = array_con<FamiliaBOOL>({CIERTO, CIERTO, FALSO, CIERTO, FALSO});
     arr_InvertirBOOL(array);
-    EXPECT_EQ(contenido<FamiliaBOOL>(array), (std::vector<BOOL>{FALSO, CIERTO, FALSO, CIERTO, CIERTO}));
+    EXPECT_EQ(contenido<FamiliaBOOL>(array),
+              (std::vector<BOOL>{FALSO, CIERTO, FALSO, CIERTO, CIERTO}));
     arr_DestruyeBOOL(&array);
 }
 

@@ -11,7 +11,8 @@ namespace {
 using Sumas = PruebaArrays;
 
 constexpr const char *FUERA_USHORT = "(unsigned long)long_elem < USHRT_MAX";
-constexpr const char *FUERA_LONG = "(double)LONG_MIN < double_elem && double_elem < (double)LONG_MAX";
+constexpr const char *FUERA_LONG =
+    "(double)LONG_MIN < double_elem && double_elem < (double)LONG_MAX";
 constexpr const char *FUERA_ULONG = "0. <= double_elem && double_elem < (double)ULONG_MAX";
 constexpr const char *FUERA_LONG64 =
     "(double)INTSAFE_INT64_MIN < double_elem && double_elem < (double)INTSAFE_INT64_MAX";

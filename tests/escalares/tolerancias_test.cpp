@@ -10,6 +10,8 @@ namespace {
 
 using Tolerancias = PruebaArrays;
 
+ARRAY *doubles(std::initializer_list<double> valores) { return array_con<FamiliaDouble>(valores); }
+
 // A pointer array holding the given arrays.
 ARRAY *punteros(std::initializer_list<ARRAY *> arrays)
 {
@@ -34,8 +36,8 @@ void destruye(ARRAY *array, int niveles)
 
 TEST_F(Tolerancias, ADifferenceEqualToTheToleranceCountsAsEqual)
 {
-    ARRAY *array1 = array_con<FamiliaDouble>({1.0});
-    ARRAY *array2 = array_con<FamiliaDouble>({1.5});
+    ARRAY *array1 = doubles({1.0});
+    ARRAY *array2 = doubles({1.5});
     EXPECT_EQ(arr_SonIgualesDoubleConTolerancia(array1, array2, 0.5), CIERTO);
     destruye(array1, 0);
     destruye(array2, 0);
@@ -43,8 +45,8 @@ TEST_F(Tolerancias, ADifferenceEqualToTheToleranceCountsAsEqual)
 
 TEST_F(Tolerancias, ADifferenceAboveTheToleranceIsUnequal)
 {
-    ARRAY *array1 = array_con<FamiliaDouble>({1.0});
-    ARRAY *array2 = array_con<FamiliaDouble>({1.5});
+    ARRAY *array1 = doubles({1.0});
+    ARRAY *array2 = doubles({1.5});
     EXPECT_EQ(arr_SonIgualesDoubleConTolerancia(array1, array2, 0.4999), FALSO);
     destruye(array1, 0);
     destruye(array2, 0);
@@ -52,8 +54,8 @@ TEST_F(Tolerancias, ADifferenceAboveTheToleranceIsUnequal)
 
 TEST_F(Tolerancias, ArraysOfDifferentLengthsAreNeverEqual)
 {
-    ARRAY *array1 = array_con<FamiliaDouble>({1.0});
-    ARRAY *array2 = array_con<FamiliaDouble>({1.0, 1.0});
+    ARRAY *array1 = doubles({1.0});
+    ARRAY *array2 = doubles({1.0, 1.0});
     EXPECT_EQ(arr_SonIgualesDoubleConTolerancia(array1, array2, 1e300), FALSO);
     destruye(array1, 0);
     destruye(array2, 0);
@@ -61,8 +63,8 @@ TEST_F(Tolerancias, ArraysOfDifferentLengthsAreNeverEqual)
 
 TEST_F(Tolerancias, ANaNDifferenceCountsAsEqual)
 {
-    ARRAY *array1 = array_con<FamiliaDouble>({std::nan(""), 2.0});
-    ARRAY *array2 = array_con<FamiliaDouble>({1.0, 2.0});
+    ARRAY *array1 = doubles({std::nan(""), 2.0});
+    ARRAY *array2 = doubles({1.0, 2.0});
     EXPECT_EQ(arr_SonIgualesDoubleConTolerancia(array1, array2, 0.0), CIERTO);
     destruye(array1, 0);
     destruye(array2, 0);
@@ -81,7 +83,7 @@ TEST_F(Tolerancias, EveryPositionOfEveryRowIsCompared)
 
 TEST_F(Tolerancias, AnArrayOfAnotherFamilyIsRefused)
 {
-    ARRAY *array1 = array_con<FamiliaDouble>({});
+    ARRAY *array1 = doubles({});
     ARRAY *array2 = arr_CreaLong64(0);
     EXPECT_EQ(arr_SonIgualesDoubleConTolerancia(array1, array2, 1.0), FALSO);
     EXPECT_EQ(informes(), Textos{"array->tipo_elem == tipo_elem"});
@@ -91,8 +93,8 @@ TEST_F(Tolerancias, AnArrayOfAnotherFamilyIsRefused)
 
 TEST_F(Tolerancias, PointerArraysOfCloseDoubleArraysAreEqual)
 {
-    ARRAY *array1 = punteros({array_con<FamiliaDouble>({1.0}), array_con<FamiliaDouble>({2.0, 3.0})});
-    ARRAY *array2 = punteros({array_con<FamiliaDouble>({1.1}), array_con<FamiliaDouble>({2.0, 2.9})});
+    ARRAY *array1 = punteros({doubles({1.0}), doubles({2.0, 3.0})});
+    ARRAY *array2 = punteros({doubles({1.1}), doubles({2.0, 2.9})});
     EXPECT_EQ(arr_SonIgualesArrPunteroArrDoubleConTolerancia(array1, array2, 0.2), CIERTO);
     destruye(array1, 1);
     destruye(array2, 1);
@@ -100,8 +102,8 @@ TEST_F(Tolerancias, PointerArraysOfCloseDoubleArraysAreEqual)
 
 TEST_F(Tolerancias, PointerArraysDifferingInOneInnerArrayAreUnequal)
 {
-    ARRAY *array1 = punteros({array_con<FamiliaDouble>({1.0}), array_con<FamiliaDouble>({2.0, 3.0})});
-    ARRAY *array2 = punteros({array_con<FamiliaDouble>({1.0}), array_con<FamiliaDouble>({2.0})});
+    ARRAY *array1 = punteros({doubles({1.0}), doubles({2.0, 3.0})});
+    ARRAY *array2 = punteros({doubles({1.0}), doubles({2.0})});
     EXPECT_EQ(arr_SonIgualesArrPunteroArrDoubleConTolerancia(array1, array2, 0.2), FALSO);
     destruye(array1, 1);
     destruye(array2, 1);
@@ -109,8 +111,8 @@ TEST_F(Tolerancias, PointerArraysDifferingInOneInnerArrayAreUnequal)
 
 TEST_F(Tolerancias, PointerArraysOfDifferentCountsAreUnequal)
 {
-    ARRAY *array1 = punteros({array_con<FamiliaDouble>({1.0})});
-    ARRAY *array2 = punteros({array_con<FamiliaDouble>({1.0}), array_con<FamiliaDouble>({1.0})});
+    ARRAY *array1 = punteros({doubles({1.0})});
+    ARRAY *array2 = punteros({doubles({1.0}), doubles({1.0})});
     EXPECT_EQ(arr_SonIgualesArrPunteroArrDoubleConTolerancia(array1, array2, 0.2), FALSO);
     destruye(array1, 1);
     destruye(array2, 1);
@@ -118,8 +120,8 @@ TEST_F(Tolerancias, PointerArraysOfDifferentCountsAreUnequal)
 
 TEST_F(Tolerancias, TheComparisonStopsAtTheFirstUnequalPair)
 {
-    ARRAY *array1 = punteros({array_con<FamiliaDouble>({1.0}), nullptr});
-    ARRAY *array2 = punteros({array_con<FamiliaDouble>({5.0}), nullptr});
+    ARRAY *array1 = punteros({doubles({1.0}), nullptr});
+    ARRAY *array2 = punteros({doubles({5.0}), nullptr});
     EXPECT_EQ(arr_SonIgualesArrPunteroArrDoubleConTolerancia(array1, array2, 0.2), FALSO);
     arr_BorrarPuntero(array1, 1);
     arr_BorrarPuntero(array2, 1);
@@ -129,8 +131,8 @@ TEST_F(Tolerancias, TheComparisonStopsAtTheFirstUnequalPair)
 
 TEST_F(Tolerancias, TwoLevelsOfPointerArraysAreComparedPairwise)
 {
-    ARRAY *array1 = punteros({punteros({array_con<FamiliaDouble>({1.0})}), punteros({array_con<FamiliaDouble>({4.0})})});
-    ARRAY *array2 = punteros({punteros({array_con<FamiliaDouble>({1.0})}), punteros({array_con<FamiliaDouble>({4.3})})});
+    ARRAY *array1 = punteros({punteros({doubles({1.0})}), punteros({doubles({4.0})})});
+    ARRAY *array2 = punteros({punteros({doubles({1.0})}), punteros({doubles({4.3})})});
     EXPECT_EQ(arr_SonIgualesArrArrPunteroArrDoubleConTolerancia(array1, array2, 0.5), CIERTO);
     EXPECT_EQ(arr_SonIgualesArrArrPunteroArrDoubleConTolerancia(array1, array2, 0.1), FALSO);
     destruye(array1, 2);
@@ -139,8 +141,8 @@ TEST_F(Tolerancias, TwoLevelsOfPointerArraysAreComparedPairwise)
 
 TEST_F(Tolerancias, ADoubleArrayWhereAPointerArrayIsExpectedIsRefused)
 {
-    ARRAY *array1 = array_con<FamiliaDouble>({1.0});
-    ARRAY *array2 = array_con<FamiliaDouble>({1.0});
+    ARRAY *array1 = doubles({1.0});
+    ARRAY *array2 = doubles({1.0});
     EXPECT_EQ(arr_SonIgualesArrPunteroArrDoubleConTolerancia(array1, array2, 0.2), FALSO);
     EXPECT_EQ(informes(), Textos{"array->tipo_elem == tipo_elem"});
     destruye(array1, 0);

@@ -35,6 +35,18 @@ TEST_F(ConModoComprobacion, AppendOnCorruptedPrefixSumsIsReported)
     EXPECT_EQ(informes(), INFORMES_SUMA_CORRUPTA);
     EXPECT_EQ(arr_NumElemsDouble(array), 301u);
     repara_suma(array);
+    EXPECT_EQ(arr_GetDouble(array, 300), 1.0);
+    arr_DestruyeDouble(&array);
+}
+
+TEST_F(ConModoComprobacion, InsertBeforeTheEndRunsTheFullCheckToo)
+{
+    ARRAY *array = crea_con_suma_corrupta();
+    arr_InsertarDouble(array, 299, 1);
+    EXPECT_EQ(informes(), INFORMES_SUMA_CORRUPTA);
+    EXPECT_EQ(arr_NumElemsDouble(array), 301u);
+    repara_suma(array);
+    EXPECT_EQ(arr_GetDouble(array, 299), 1.0);
     arr_DestruyeDouble(&array);
 }
 

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 #include <string>
 
 #include <unicode/ustring.h>
@@ -26,14 +27,26 @@ void manejador_por_defecto(const arr_informe *informe, void *)
         std::abort();
 }
 
-std::atomic<arr_manejador_informes> manejador{manejador_por_defecto};
-std::atomic<void *> contexto_manejador{nullptr};
+// The installed handler with its context. They change together under the lock, so that a report
+// made on one thread while another installs a handler never pairs a handler with another's
+// context. The lock is not held while a handler runs: a handler may install another.
+struct Instalado {
+    arr_manejador_informes manejador;
+    void *contexto;
+};
+std::mutex cerrojo;
+Instalado instalado{manejador_por_defecto, nullptr};
 std::atomic<ULONG64> num_informes{0};
 
 void informa(const arr_informe &informe)
 {
     num_informes.fetch_add(1, std::memory_order_relaxed);
-    manejador.load()(&informe, contexto_manejador.load());
+    Instalado actual;
+    {
+        const std::lock_guard<std::mutex> guarda(cerrojo);
+        actual = instalado;
+    }
+    actual.manejador(&informe, actual.contexto);
 }
 
 // The UTF-8 form of a zero-terminated UTF-16 text (ill-formed units become U+FFFD).
@@ -71,9 +84,9 @@ void error_interno_default_error(int, int, const char *ubicacion, LONG linea, in
 extern "C" ARRAYS_API arr_manejador_informes arr_set_manejador_informes(arr_manejador_informes f,
                                                                         void *contexto) noexcept
 {
-    contexto_manejador.store(contexto);
-    const arr_manejador_informes anterior =
-        manejador.exchange(f != nullptr ? f : manejador_por_defecto);
+    const std::lock_guard<std::mutex> guarda(cerrojo);
+    const arr_manejador_informes anterior = instalado.manejador;
+    instalado = {f != nullptr ? f : manejador_por_defecto, contexto};
     return anterior == manejador_por_defecto ? nullptr : anterior;
 }
 

@@ -187,8 +187,10 @@ void arrayprv_busca(ARRAY *array, ULONG pos_inicial, const void *elemento,
     // Every check is reported; the walk runs only when all of them hold.
     const bool hay_elemento = ARR_EXIGE(elemento, "elemento");
     const auto destino_y_tipo = [&] {
-        return ARR_EXIGE(posicion != nullptr, "(posicion) != NULL") &
-               ARR_EXIGE(array->tipo_elem == tipo_elem, "array->tipo_elem == tipo_elem");
+        const bool hay_destino = ARR_EXIGE(posicion != nullptr, "(posicion) != NULL");
+        const bool mismo_tipo =
+            ARR_EXIGE(array->tipo_elem == tipo_elem, "array->tipo_elem == tipo_elem");
+        return hay_destino && mismo_tipo;
     };
     const bool hay_igualdad =
         con_igualdad(tipo_elem, tabla, array->size_elem, true, [&](auto iguales) {
@@ -209,14 +211,15 @@ BOOL arrayprv_son_iguales(const ARRAY *array1, const ARRAY *array2, const fnc_co
             array2->mascara_debug != MASCARA_DEBUG)
             return FALSO;
     } else {
-        const bool punteros = ARR_EXIGE(array1 != nullptr, "(array1) != NULL") &
-                              ARR_EXIGE(array2 != nullptr, "(array2) != NULL");
-        if (!punteros)
+        const bool hay_array1 = ARR_EXIGE(array1 != nullptr, "(array1) != NULL");
+        const bool hay_array2 = ARR_EXIGE(array2 != nullptr, "(array2) != NULL");
+        if (!(hay_array1 && hay_array2))
             return FALSO;
-        const bool vivos =
-            ARR_EXIGE(array1->mascara_debug == MASCARA_DEBUG, "array1->mascara_debug == MASCARA_DEBUG") &
-            ARR_EXIGE(array2->mascara_debug == MASCARA_DEBUG, "array2->mascara_debug == MASCARA_DEBUG");
-        if (!vivos)
+        const bool vivo1 = ARR_EXIGE(array1->mascara_debug == MASCARA_DEBUG,
+                                     "array1->mascara_debug == MASCARA_DEBUG");
+        const bool vivo2 = ARR_EXIGE(array2->mascara_debug == MASCARA_DEBUG,
+                                     "array2->mascara_debug == MASCARA_DEBUG");
+        if (!(vivo1 && vivo2))
             return FALSO;
         arrayprv_comprueba_en_bucle(array1->en_bucle, 0, UBICACION, __LINE__);
         arrayprv_comprueba_en_bucle(array2->en_bucle, 0, UBICACION, __LINE__);

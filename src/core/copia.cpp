@@ -51,14 +51,15 @@ bool entrada_concatena(const ARRAY *dest, const ARRAY *org)
         return org != nullptr && dest != nullptr && org->mascara_debug == MASCARA_DEBUG &&
                dest->mascara_debug == MASCARA_DEBUG;
     }
-    const bool punteros = ARR_EXIGE(org != nullptr, "(org) != NULL") &
-                          ARR_EXIGE(dest != nullptr, "(dest) != NULL");
-    if (!punteros)
+    const bool hay_org = ARR_EXIGE(org != nullptr, "(org) != NULL");
+    const bool hay_dest = ARR_EXIGE(dest != nullptr, "(dest) != NULL");
+    if (!(hay_org && hay_dest))
         return false;
-    const bool vivos =
-        ARR_EXIGE(dest->mascara_debug == MASCARA_DEBUG, "dest->mascara_debug == MASCARA_DEBUG") &
+    const bool dest_vivo =
+        ARR_EXIGE(dest->mascara_debug == MASCARA_DEBUG, "dest->mascara_debug == MASCARA_DEBUG");
+    const bool org_vivo =
         ARR_EXIGE(org->mascara_debug == MASCARA_DEBUG, "org->mascara_debug == MASCARA_DEBUG");
-    if (!vivos)
+    if (!(dest_vivo && org_vivo))
         return false;
     ARR_EXIGE(dest->en_bucle == FALSO, "dest->en_bucle == FALSO");
     ARR_EXIGE(dest->en_bucle_lectura == FALSO, "dest->en_bucle_lectura == FALSO");
@@ -124,12 +125,16 @@ void arrayprv_concatena(ARRAY *dest, const ARRAY *org)
 {
     if (!entrada_concatena(dest, org))
         return;
-    const bool compatibles =
-        ARR_EXIGE(org->tipo_elem == dest->tipo_elem, "org->tipo_elem == dest->tipo_elem") &
-        ARR_EXIGE(org->tipo_elem != elem_BIT_NO_USAR, "org->tipo_elem != elem_BIT_NO_USAR") &
+    const bool mismo_tipo =
+        ARR_EXIGE(org->tipo_elem == dest->tipo_elem, "org->tipo_elem == dest->tipo_elem");
+    const bool no_bits =
+        ARR_EXIGE(org->tipo_elem != elem_BIT_NO_USAR, "org->tipo_elem != elem_BIT_NO_USAR");
+    const bool no_punteros =
         ARR_EXIGE(org->tipo_elem != elem_PUNTERO_NO_USAR, "org->tipo_elem != elem_PUNTERO_NO_USAR");
+    if (!(mismo_tipo && no_bits && no_punteros))
+        return;
     // An array appended to itself would never reach the end of its growing count.
-    if (!compatibles || !ARR_EXIGE(dest != org, "dest != org") || org->num_elems == 0)
+    if (!ARR_EXIGE(dest != org, "dest != org") || org->num_elems == 0)
         return;
     fnc_accion acciones{};
     acciones.fnc_accion_CADENA = anyade_copia_cadena;

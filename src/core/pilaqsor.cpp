@@ -40,11 +40,12 @@ void pilaqsor_mete(pilaqsor *pila, ULONG izquierda, ULONG derecha)
 
 void pilaqsor_saca(pilaqsor *pila, ULONG *izquierda, ULONG *derecha)
 {
-    const bool valido = ARR_EXIGE(pila != nullptr, "(pilaqsor) != NULL") &&
-                        ARR_EXIGE(pila->num_elementos > 0, "pilaqsor->num_elementos > 0") &
-                            ARR_EXIGE(izquierda != nullptr, "(izquierda) != NULL") &
-                            ARR_EXIGE(derecha != nullptr, "(derecha) != NULL");
-    if (!valido)
+    if (!ARR_EXIGE(pila != nullptr, "(pilaqsor) != NULL"))
+        return;
+    const bool hay_rango = ARR_EXIGE(pila->num_elementos > 0, "pilaqsor->num_elementos > 0");
+    const bool hay_izquierda = ARR_EXIGE(izquierda != nullptr, "(izquierda) != NULL");
+    const bool hay_derecha = ARR_EXIGE(derecha != nullptr, "(derecha) != NULL");
+    if (!(hay_rango && hay_izquierda && hay_derecha))
         return;
     --pila->num_elementos;
     *izquierda = pila->izquierdas[pila->num_elementos];

@@ -110,8 +110,10 @@ void arrayprv_copia_elemento(const ARRAY *array, LONG pos, void *buffer, size_t 
 
 void arrayprv_pon_elemento(ARRAY *array, LONG pos, const void *buffer, size_t tam)
 {
+    // The element size is read by value: the header is packed and the field is misaligned.
+    const size_t size_elem = array->size_elem;
     if (char *elemento = direccion(array, pos))
-        std::memcpy(elemento, buffer, std::min(tam, array->size_elem));
+        std::memcpy(elemento, buffer, std::min(tam, size_elem));
 }
 
 void arrayprv_intercambia_elementos(ARRAY *array, LONG i, LONG j, void *tmp, size_t tam_tmp)
@@ -131,9 +133,10 @@ void arrayprv_intercambia_elementos(ARRAY *array, LONG i, LONG j, void *tmp, siz
 void arrayprv_qsort(ARRAY *array, const funciones_ordenacion *tabla, adaptador_orden compara,
                     tipo_elem_array tipo_elem)
 {
-    const bool argumentos = ARR_EXIGE(array != nullptr, "(array) != NULL") &
-                            ARR_EXIGE(compara != nullptr, "(compara) != NULL");
-    if (!argumentos || !arrayprv_entrada_tipo(array, TEXTOS_ARRAY, true, Modo::estricto, tipo_elem) ||
+    const bool hay_array = ARR_EXIGE(array != nullptr, "(array) != NULL");
+    const bool hay_compara = ARR_EXIGE(compara != nullptr, "(compara) != NULL");
+    if (!(hay_array && hay_compara) ||
+        !arrayprv_entrada_tipo(array, TEXTOS_ARRAY, true, Modo::estricto, tipo_elem) ||
         array->num_elems < 2)
         return;
     array->en_bucle = CIERTO;

@@ -86,6 +86,11 @@ std::string nombre_de_tipo(const ::testing::TestParamInfo<PredicadoRequerido> &i
     return "Tag" + std::to_string(info.param.tipo);
 }
 
+void PrintTo(const PredicadoRequerido &predicado, std::ostream *os)
+{
+    *os << "tag " << predicado.tipo << ", " << predicado.texto;
+}
+
 namespace {
 
 ComparadorAnotado *activo = nullptr;

@@ -26,6 +26,10 @@ struct Punto3D {
     double x, y, z;
 };
 
+// A field of the packed header, read by value: the checks of the test framework bind references,
+// and the packing leaves most fields misaligned.
+template <typename T> T campo(T valor) { return valor; }
+
 // An array of the tag holding `valores` appended in order, in rows of `long_fila` bytes.
 template <typename T>
 ARRAY *crea_con(tipo_elem_array tipo, const std::vector<T> &valores,
@@ -102,3 +106,4 @@ struct PredicadoRequerido {
 // The seven such types, and a test name for each.
 std::vector<PredicadoRequerido> predicados_requeridos();
 std::string nombre_de_tipo(const ::testing::TestParamInfo<PredicadoRequerido> &info);
+void PrintTo(const PredicadoRequerido &predicado, std::ostream *os);

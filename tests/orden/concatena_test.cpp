@@ -98,8 +98,8 @@ TEST_F(Concatenacion, BitArraysAreReportedAndDestIsUnchanged)
     ARRAY *org = arrayprv_crea(8, elem_BIT_NO_USAR, LONG_FILA_POR_DEFECTO);
     arrayprv_concatena(dest, org);
     EXPECT_EQ(informes(), Textos{"org->tipo_elem != elem_BIT_NO_USAR"});
-    EXPECT_EQ(dest->num_elems, 1u);
-    EXPECT_EQ(dest->num_bits, 8u);
+    EXPECT_EQ(campo(dest->num_elems), 1u);
+    EXPECT_EQ(campo(dest->num_bits), 8u);
     arrayprv_destruye(&dest);
     arrayprv_destruye(&org);
 }
@@ -112,7 +112,7 @@ TEST_F(Concatenacion, PointerArraysAreReportedAndDestIsUnchanged)
                                   "tipo_elemento != elem_PUNTERO_NO_USAR"}));
     arrayprv_concatena(dest, org);
     EXPECT_EQ(informes(), Textos{"org->tipo_elem != elem_PUNTERO_NO_USAR"});
-    EXPECT_EQ(dest->num_elems, 1u);
+    EXPECT_EQ(campo(dest->num_elems), 1u);
     arrayprv_destruye(&dest);
     arrayprv_destruye(&org);
 }

@@ -24,7 +24,7 @@ TEST_F(Inversion, BoolReversalOfAnEvenCountAcrossRowsReversesEverything)
     for (int i = 0; i < 2500; ++i)
         valores.push_back(i % 3 == 0 ? CIERTO : FALSO);
     ARRAY *array = crea_con<BOOL>(elem_BOOL_NO_USAR, valores);
-    ASSERT_GT(array->num_filas, 2u);
+    ASSERT_GT(campo(array->num_filas), 2u);
     arrayprv_invierte(array, elem_BOOL_NO_USAR);
     EXPECT_EQ(elementos<BOOL>(array, elem_BOOL_NO_USAR),
               std::vector<BOOL>(valores.rbegin(), valores.rend()));
@@ -37,7 +37,7 @@ TEST_F(Inversion, BoolReversalOfZeroOrOneElementChangesNothing)
     ARRAY *uno = crea_con<BOOL>(elem_BOOL_NO_USAR, {CIERTO});
     arrayprv_invierte(vacio, elem_BOOL_NO_USAR);
     arrayprv_invierte(uno, elem_BOOL_NO_USAR);
-    EXPECT_EQ(vacio->num_elems, 0u);
+    EXPECT_EQ(campo(vacio->num_elems), 0u);
     EXPECT_EQ(elementos<BOOL>(uno, elem_BOOL_NO_USAR), std::vector<BOOL>{CIERTO});
     arrayprv_destruye(&vacio);
     arrayprv_destruye(&uno);

@@ -94,8 +94,8 @@ TEST_F(Qsort, ElementsSpanningSeveralRowsSortExactlyAsInOneRow)
         valores.push_back(static_cast<double>(azar() % 300));
     ARRAY *en_filas = crea_doubles(valores);
     ARRAY *en_una = crea_con<double>(elem_DOUBLE_NO_USAR, valores, 1000 * sizeof(double));
-    ASSERT_EQ(en_filas->num_filas, 4u);
-    ASSERT_EQ(en_una->num_filas, 1u);
+    ASSERT_EQ(campo(en_filas->num_filas), 4u);
+    ASSERT_EQ(campo(en_una->num_filas), 1u);
     ComparadorAnotado por_filas(arrayprv_orden_double);
     arr_QSortDouble(en_filas, ComparadorAnotado::compara);
     ComparadorAnotado por_una(arrayprv_orden_double);

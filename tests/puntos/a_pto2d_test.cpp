@@ -332,47 +332,38 @@ protected:
 
 TEST_F(ArraysDeArraysTest, PointerArraysAreEqualWhenEveryPairIsWithinTolerance)
 {
-    ARRAY *a = crea_array_de_punteros({cuadrado_, linea_});
-    ARRAY *b = crea_array_de_punteros({casi_cuadrado_, linea_});
-    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a, b, 0.0625), CIERTO);
-    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a, b, 0.0624), FALSO);
-    destruye_array_de_punteros(&a);
-    destruye_array_de_punteros(&b);
+    const ArrayDePunteros a({cuadrado_, linea_});
+    const ArrayDePunteros b({casi_cuadrado_, linea_});
+    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a.get(), b.get(), 0.0625), CIERTO);
+    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a.get(), b.get(), 0.0624), FALSO);
 }
 
 TEST_F(ArraysDeArraysTest, PointerArraysDifferWhenOnePairDiffers)
 {
-    ARRAY *a = crea_array_de_punteros({cuadrado_, linea_});
-    ARRAY *b = crea_array_de_punteros({cuadrado_, cuadrado_});
-    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a, b, 100), FALSO);
-    destruye_array_de_punteros(&a);
-    destruye_array_de_punteros(&b);
+    const ArrayDePunteros a({cuadrado_, linea_});
+    const ArrayDePunteros b({cuadrado_, cuadrado_});
+    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a.get(), b.get(), 100), FALSO);
 }
 
 TEST_F(ArraysDeArraysTest, PointerArraysOfDifferentLengthsDiffer)
 {
-    ARRAY *a = crea_array_de_punteros({cuadrado_});
-    ARRAY *b = crea_array_de_punteros({cuadrado_, cuadrado_});
-    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a, b, 0.1), FALSO);
-    destruye_array_de_punteros(&a);
-    destruye_array_de_punteros(&b);
+    const ArrayDePunteros a({cuadrado_});
+    const ArrayDePunteros b({cuadrado_, cuadrado_});
+    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a.get(), b.get(), 0.1), FALSO);
 }
 
 TEST_F(ArraysDeArraysTest, TwoEmptyPointerArraysAreEqual)
 {
-    ARRAY *a = crea_array_de_punteros({});
-    ARRAY *b = crea_array_de_punteros({});
-    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a, b, 0), CIERTO);
-    destruye_array_de_punteros(&a);
-    destruye_array_de_punteros(&b);
+    const ArrayDePunteros a(std::vector<ARRAY *>{});
+    const ArrayDePunteros b(std::vector<ARRAY *>{});
+    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(a.get(), b.get(), 0), CIERTO);
 }
 
 TEST_F(ArraysDeArraysTest, ComparingPointArraysAsPointerArraysReportsTheType)
 {
-    ARRAY *b = crea_array_de_punteros({cuadrado_});
-    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(cuadrado_, b, 0.1), FALSO);
+    const ArrayDePunteros b({cuadrado_});
+    EXPECT_EQ(arr_SonIgualesArrPunteroArrPunto2DConTolerancia(cuadrado_, b.get(), 0.1), FALSO);
     EXPECT_EQ(informes(), Textos{"array1->tipo_elem == elem_PUNTERO_NO_USAR"});
-    destruye_array_de_punteros(&b);
 }
 
 TEST_F(Punto2DTest, BoundingBoxMatchesTheExtremesOfRandomPoints)

@@ -5,8 +5,6 @@
 #include "core/arrayprv.h"
 #include "points/a_pto2dx.h"
 
-#include <cstring>
-
 namespace {
 
 using namespace datos_contados;
@@ -255,6 +253,38 @@ TEST_F(Punto2DXTest, DestroyChecksTheHandle)
     EXPECT_EQ(informes(), Textos{"(*array) != NULL"});
 }
 
+TEST_F(Punto2DXTest, DestroyInsideATraversalReportsItAndStillReleasesEverything)
+{
+    ARRAY *array = crea_con_datos(2);
+    array->en_bucle = CIERTO;
+    arr_DestruyePunto2DXPriv(&array, destruye);
+    EXPECT_EQ(informes(), Textos{"(*array)->en_bucle == FALSO"});
+    EXPECT_EQ(array, nullptr);
+    EXPECT_EQ(destrucciones(), 2u);
+}
+
+TEST_F(Punto2DXTest, DestroyOfAHandleThatIsNotALiveArrayReportsItAndEnds)
+{
+    ARRAY *array = crea_con_datos(1);
+    ARRAY *alias = array;
+    array->mascara_debug = 0;
+    arr_DestruyePunto2DXPriv(&alias, destruye);
+    EXPECT_EQ(informes(), Textos{"(*array)->mascara_debug == MASCARA_DEBUG"});
+    EXPECT_EQ(alias, array);
+    EXPECT_EQ(destrucciones(), 0u);
+    array->mascara_debug = MASCARA_DEBUG;
+    arr_DestruyePunto2DXPriv(&array, destruye);
+}
+
+TEST_F(Punto2DXTest, ShrinkOfAPlainArrayReportsTheTypeAndKeepsIt)
+{
+    ARRAY *array = crea_puntos2D({{1, 1}, {2, 2}});
+    arr_ReduceTamanyoPunto2DXPriv(array, 1, destruye);
+    EXPECT_EQ(informes(), Textos{"array->tipo_elem == elem_PUNTO2DX_NO_USAR"});
+    EXPECT_EQ(arr_NumElemsPunto2D(array), 2u);
+    arr_DestruyePunto2D(&array);
+}
+
 TEST_F(Punto2DXTest, ShrinkReleasesTheDataOfTheCutPointsOnly)
 {
     ARRAY *array = crea_con_datos(5);
@@ -396,6 +426,39 @@ TEST_F(Punto2DXTest, ConcatenateChecksBothArrays)
     EXPECT_EQ(arr_NumElemsPunto2D(plano), 1u);
     arr_DestruyePunto2D(&plano);
     arr_DestruyePunto2DXPriv(&dest, nullptr);
+}
+
+TEST_F(Punto2DXTest, ConcatenateChecksThatBothHandlesAreLiveArrays)
+{
+    ARRAY *dest = crea_puntos2DX({{1, 1}});
+    ARRAY *org = crea_con_datos(1);
+    arr_ConcatenaPunto2DXPriv_nousar(nullptr, org, copia, __FILE__, __LINE__);
+    EXPECT_EQ(informes(), Textos{"(dest) != NULL"});
+    dest->mascara_debug = 0;
+    arr_ConcatenaPunto2DXPriv_nousar(dest, org, copia, __FILE__, __LINE__);
+    EXPECT_EQ(informes(), Textos{"dest->mascara_debug == MASCARA_DEBUG"});
+    dest->mascara_debug = MASCARA_DEBUG;
+    org->mascara_debug = 0;
+    arr_ConcatenaPunto2DXPriv_nousar(dest, org, copia, __FILE__, __LINE__);
+    EXPECT_EQ(informes(), Textos{"org->mascara_debug == MASCARA_DEBUG"});
+    org->mascara_debug = MASCARA_DEBUG;
+    EXPECT_EQ(arr_NumElemsPunto2D(dest), 1u);
+    EXPECT_EQ(copias(), 0u);
+    arr_DestruyePunto2DXPriv(&dest, destruye);
+    arr_DestruyePunto2DXPriv(&org, destruye);
+}
+
+TEST_F(Punto2DXTest, ConcatenateOntoABusyDestinationReportsItAndCarriesOn)
+{
+    ARRAY *dest = arr_CreaPunto2DXPriv(0);
+    ARRAY *org = crea_con_datos(1);
+    dest->en_bucle = CIERTO;
+    arr_ConcatenaPunto2DXPriv_nousar(dest, org, copia, __FILE__, __LINE__);
+    dest->en_bucle = FALSO;
+    EXPECT_EQ(informes(), (Textos{"dest->en_bucle == FALSO", "array->en_bucle == FALSO"}));
+    EXPECT_EQ(valores_de(dest), std::vector<int>{0});
+    arr_DestruyePunto2DXPriv(&dest, destruye);
+    arr_DestruyePunto2DXPriv(&org, destruye);
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 // Helpers of the point tests.
 #include "puntos/ayudas_puntos.h"
 
-#include "core/arrayprv.h"
-
 #include <random>
 #include <set>
 
@@ -67,23 +65,18 @@ std::vector<P2> puntos_al_azar(size_t n, unsigned semilla)
     return puntos;
 }
 
-// The pointer family builds its headers itself: here an array of 8-byte elements is made by the
-// general creation and given the pointer tag, which is the header that family makes.
-ARRAY *crea_array_de_punteros(const std::vector<ARRAY *> &arrays)
+ArrayDePunteros::ArrayDePunteros(const std::vector<ARRAY *> &arrays)
+    : array_(arr_CreaPunteroConTipo(0)), num_(arrays.size())
 {
-    ARRAY *punteros = arrayprv_crea(0, elem_ULONG64_NO_USAR, LONG_FILA_POR_DEFECTO);
-    punteros->tipo_elem = elem_PUNTERO_NO_USAR;
     for (ARRAY *array : arrays)
-        arrayprv_append(punteros, &array, elem_PUNTERO_NO_USAR);
-    return punteros;
+        arr_AppendPunteroConTipo(array_, array);
 }
 
-void destruye_array_de_punteros(ARRAY **array)
+ArrayDePunteros::~ArrayDePunteros()
 {
-    const void *nulo = nullptr;
-    for (ULONG i = 0; i < (*array)->num_elems; ++i)
-        arrayprv_set(*array, i, &nulo, elem_PUNTERO_NO_USAR);
-    arrayprv_destruye(array);
+    for (ULONG i = 0; i < num_; ++i)
+        arr_SetPunteroConTipo(array_, i, nullptr);
+    arr_DestruyePunteroConTipo(&array_);
 }
 
 BOOL iguales2D(double x1, double y1, double x2, double y2) { return x1 == x2 && y1 == y2; }

@@ -27,10 +27,20 @@ std::vector<void *> datos_de(const ARRAY *array);
 // n points with coordinates drawn uniformly from [-100, 100), the same for the same semilla.
 std::vector<P2> puntos_al_azar(size_t n, unsigned semilla);
 
-// A typed pointer array (tag 12) holding the given arrays, and its destruction. The pointers
-// are not owned: the arrays they name are destroyed by the caller.
-ARRAY *crea_array_de_punteros(const std::vector<ARRAY *> &arrays);
-void destruye_array_de_punteros(ARRAY **array);
+// A typed pointer array holding the given arrays for the helper's lifetime. The pointers are
+// not owned: the arrays they name are destroyed by the caller.
+class ArrayDePunteros {
+public:
+    explicit ArrayDePunteros(const std::vector<ARRAY *> &arrays);
+    ~ArrayDePunteros();
+    ArrayDePunteros(const ArrayDePunteros &) = delete;
+    ArrayDePunteros &operator=(const ArrayDePunteros &) = delete;
+    ARRAY *get() const { return array_; }
+
+private:
+    ARRAY *array_;
+    size_t num_;
+};
 
 // Predicates and comparators in the callback shapes of the point families.
 BOOL iguales2D(double x1, double y1, double x2, double y2);

@@ -18,8 +18,10 @@
 
 #include "arrays.h"
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 // Location string of the engine's reports.
@@ -88,8 +90,19 @@ struct fnc_accion {
 // Element size of a tag; an unknown tag is reported and yields 0.
 size_t arrayprv_size_elem(tipo_elem_array tipo);
 
+// Checking mode: undecided until the first operation that asks, then fixed for the process.
+enum { MODO_SIN_DECIDIR = 0, MODO_APAGADO = 1, MODO_ENCENDIDO = 2 };
+extern std::atomic<int> arrayprv_estado_modo;
+BOOL arrayprv_decide_modo_comprobacion();
+
 // TRUE when the environment held ARRAYPRUEBA at the first call that asked; fixed from then on.
-BOOL arrayprv_es_modo_comprobacion();
+inline BOOL arrayprv_es_modo_comprobacion()
+{
+    const int estado = arrayprv_estado_modo.load(std::memory_order_relaxed);
+    if (estado != MODO_SIN_DECIDIR) [[likely]]
+        return estado == MODO_ENCENDIDO;
+    return arrayprv_decide_modo_comprobacion();
+}
 
 // The full consistency check; modo 1 refuses a running traversal (strict), 0 is lenient.
 void arrayprv_comprueba_array(const ARRAY *array, BOOL modo);
@@ -155,6 +168,47 @@ void arrayprv_borra_en_fila(ARRAY *array, const posicion_array *posi);
 
 // ---- Positions (the one place that maps an index to a row and offset) ----------------------
 
+// Finds the row of a valid index without the documented search when it can: directly when every
+// row before it is full, else by a short walk from the row that the average row length
+// predicts. The prefix sums confirm every answer; false (without a report) leaves the index to
+// arrayprv_posicion.
+inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos, posicion_array *posi)
+{
+    const size_t num_filas = array->num_filas;
+    const size_t long_max = array->long_max_fila_en_elem;
+    if (real_pos >= array->num_elems || num_filas == 0 || long_max == 0)
+        return false;
+    const size_t *const acumulado = array->acumulado_filas;
+    const size_t *const long_filas = array->long_filas;
+    const auto contiene = [&](size_t fila) {
+        return acumulado[fila] <= real_pos && real_pos - acumulado[fila] < long_filas[fila];
+    };
+    // Rows of a power-of-two length (every element size but 24 bytes) divide by a shift.
+    size_t fila = (long_max & (long_max - 1)) == 0 ? real_pos >> __builtin_ctzll(long_max)
+                                                   : real_pos / long_max;
+    if (fila < num_filas && contiene(fila)) [[likely]] {
+        *posi = {fila, real_pos - acumulado[fila]};
+        return true;
+    }
+    fila = static_cast<size_t>(real_pos) * num_filas / array->num_elems;
+    if (fila >= num_filas)
+        fila = num_filas - 1;
+    for (int paso = 0; paso < 8; ++paso) {
+        if (contiene(fila)) {
+            *posi = {fila, real_pos - acumulado[fila]};
+            return true;
+        }
+        if (real_pos < acumulado[fila]) {
+            if (fila == 0)
+                return false;
+            --fila;
+        } else if (++fila == num_filas) {
+            return false;
+        }
+    }
+    return false;
+}
+
 // Maps `real_pos` to its row and offset; false (after the reports) when there is no such element.
 bool arrayprv_posicion(const ARRAY *array, ULONG real_pos, posicion_array *posi);
 void arrayprv_siguiente_posicion(const ARRAY *array, posicion_array *posi);
@@ -166,14 +220,55 @@ void *arrayprv_direccion_elemento(const ARRAY *array, const posicion_array *posi
 
 // ---- Elements (the bodies behind the typed append, insert, delete, get, set, ...) ----------
 
-size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem);
+size_t arrayprv_append_comprobado(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem);
+// Appends one element and returns the new count (0 when the array cannot be used). The common
+// case, a live idle array whose last row has room, stores the element at once.
+inline size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem)
+{
+    if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
+        array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem && array->num_filas > 0 &&
+        !arrayprv_es_modo_comprobacion()) [[likely]] {
+        const size_t ultima = array->num_filas - 1;
+        size_t *const long_filas = array->long_filas;
+        if (long_filas[ultima] < array->max_long_filas[ultima]) [[likely]] {
+            std::memcpy(array->buffer[ultima] + long_filas[ultima] * array->size_elem, elemento,
+                        array->size_elem);
+            ++long_filas[ultima];
+            return ++array->num_elems;
+        }
+    }
+    return arrayprv_append_comprobado(array, elemento, tipo_elem);
+}
 void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento,
                       tipo_elem_array tipo_elem);
 void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
 // Address of the element inside its row, valid until the array next changes; NULL when the
 // element cannot be reached.
-void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
-void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem);
+void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
+inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
+{
+    posicion_array posi;
+    if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->tipo_elem == tipo_elem &&
+        arrayprv_posicion_rapida(array, real_pos, &posi)) [[likely]]
+        return array->buffer[posi.fila] + posi.pos * array->size_elem;
+    return arrayprv_get_comprobado(array, real_pos, tipo_elem);
+}
+
+void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
+                             tipo_elem_array tipo_elem);
+inline void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento,
+                         tipo_elem_array tipo_elem)
+{
+    posicion_array posi;
+    if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
+        array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem &&
+        arrayprv_posicion_rapida(array, real_pos, &posi)) [[likely]] {
+        std::memcpy(array->buffer[posi.fila] + posi.pos * array->size_elem, elemento,
+                    array->size_elem);
+        return;
+    }
+    arrayprv_set_comprobado(array, real_pos, elemento, tipo_elem);
+}
 void arrayprv_inicializa(ARRAY *array, const void *elemento, tipo_elem_array tipo);
 void arrayprv_aumenta_tamanyo(ARRAY *array, ULONG nuevo_tamanyo);
 void arrayprv_reduce_tamanyo(ARRAY *array, ULONG nuevo_tamanyo);

@@ -11,10 +11,6 @@ namespace {
 
 constexpr const char *UBICACION = UBICACION_ARRAYPRV;
 
-// Checking mode is decided once, at the first operation that asks.
-std::atomic<BOOL> modo_sin_decidir{1};
-std::atomic<BOOL> modo_comprobacion{FALSO};
-
 // Each row exists and is not empty, its count fits its capacity and its capacity fits the
 // maximum row length.
 void comprueba_cada_fila(const ARRAY *array)
@@ -64,15 +60,14 @@ void comprueba_filas(const ARRAY *array)
 
 } // namespace
 
-BOOL arrayprv_es_modo_comprobacion()
+std::atomic<int> arrayprv_estado_modo{MODO_SIN_DECIDIR};
+
+BOOL arrayprv_decide_modo_comprobacion()
 {
-    // The mode is stored before the flag is cleared, so no caller sees the flag cleared and the
-    // mode still unset; threads that arrive together all read the environment and store the same.
-    if (modo_sin_decidir != 0) {
-        modo_comprobacion = std::getenv("ARRAYPRUEBA") != nullptr ? CIERTO : FALSO;
-        modo_sin_decidir = 0;
-    }
-    return modo_comprobacion;
+    // Threads that arrive together all read the environment and store the same answer.
+    const int estado = std::getenv("ARRAYPRUEBA") != nullptr ? MODO_ENCENDIDO : MODO_APAGADO;
+    arrayprv_estado_modo.store(estado, std::memory_order_relaxed);
+    return estado == MODO_ENCENDIDO;
 }
 
 void arrayprv_comprueba_array(const ARRAY *array, BOOL modo)

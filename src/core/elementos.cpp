@@ -70,7 +70,7 @@ void pon_en(ARRAY *array, const posicion_array &destino, const void *elemento)
 
 } // namespace
 
-size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem)
+size_t arrayprv_append_comprobado(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem)
 {
     if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::estricto, tipo_elem))
         return 0;
@@ -121,7 +121,7 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
     --array->num_elems;
 }
 
-void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
+void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
     if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, false, Modo::ninguno, tipo_elem) ||
@@ -130,7 +130,8 @@ void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem
     return array->buffer[posi.fila] + posi.pos * array->size_elem;
 }
 
-void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem)
+void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
+                             tipo_elem_array tipo_elem)
 {
     posicion_array posi;
     if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::ninguno, tipo_elem) ||

@@ -4,6 +4,8 @@
 
 #include "services/informes.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char *UBICACION = UBICACION_ARRAYPRV;
@@ -54,6 +56,8 @@ bool busca_dicotomica(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 
 bool arrayprv_posicion(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 {
+    if (arrayprv_posicion_rapida(array, real_pos, posi)) [[likely]]
+        return true;
     const bool hay_elementos = ARR_EXIGE(array->num_elems > 0, "array->num_elems > 0");
     const bool dentro = ARR_EXIGE(real_pos < array->num_elems, "real_pos < array->num_elems");
     if (!(hay_elementos && dentro) || array->num_filas == 0)

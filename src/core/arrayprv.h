@@ -18,6 +18,7 @@
 
 #include "arrays.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
@@ -169,9 +170,8 @@ void arrayprv_borra_en_fila(ARRAY *array, const posicion_array *posi);
 // ---- Positions (the one place that maps an index to a row and offset) ----------------------
 
 // Finds the row of a valid index without the documented search when it can: directly when every
-// row before it is full, else by a short walk from the row that the average row length
-// predicts. The prefix sums confirm every answer; false (without a report) leaves the index to
-// arrayprv_posicion.
+// row before it is full, else by bisecting the prefix sums. The prefix sums confirm every answer;
+// false (without a report) leaves the index, and any inconsistent header, to arrayprv_posicion.
 inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 {
     const size_t num_filas = array->num_filas;
@@ -190,23 +190,13 @@ inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos, posicio
         *posi = {fila, real_pos - acumulado[fila]};
         return true;
     }
-    fila = static_cast<size_t>(real_pos) * num_filas / array->num_elems;
-    if (fila >= num_filas)
-        fila = num_filas - 1;
-    for (int paso = 0; paso < 8; ++paso) {
-        if (contiene(fila)) {
-            *posi = {fila, real_pos - acumulado[fila]};
-            return true;
-        }
-        if (real_pos < acumulado[fila]) {
-            if (fila == 0)
-                return false;
-            --fila;
-        } else if (++fila == num_filas) {
-            return false;
-        }
-    }
-    return false;
+    // Rows of uneven length: the last row whose prefix sum is not above the index.
+    fila = static_cast<size_t>(std::upper_bound(acumulado, acumulado + num_filas, size_t{real_pos}) -
+                               acumulado);
+    if (fila == 0 || !contiene(fila - 1))
+        return false;
+    *posi = {fila - 1, real_pos - acumulado[fila - 1]};
+    return true;
 }
 
 // Maps `real_pos` to its row and offset; false (after the reports) when there is no such element.

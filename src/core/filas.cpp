@@ -7,6 +7,7 @@
 #include "services/memoria.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 namespace {
@@ -31,9 +32,16 @@ void suma_acumulados(ARRAY *array, size_t desde, size_t hasta, size_t delta)
 
 // The header is packed, so its table pointers may sit at unaligned addresses: the tables are
 // resized and freed through aligned copies of the pointers, never through references to them.
+// Tables keep spare room so that adding or removing a row rarely reallocates: a table is
+// reallocated to the next power of two of entries when it is too small, or when it uses less
+// than a quarter of its block.
 template <typename T> T *redimensionada(T *tabla, size_t num)
 {
-    return static_cast<T *>(zarpspy_nousar_realloc(tabla, num * sizeof(T)));
+    const size_t bytes = num * sizeof(T);
+    const size_t bloque = tabla != nullptr ? zarpspy_tamanyo_bloque(tabla) : 0;
+    if (bytes <= bloque && bytes > bloque / 4)
+        return tabla;
+    return static_cast<T *>(zarpspy_nousar_realloc(tabla, std::bit_ceil(num) * sizeof(T)));
 }
 
 template <typename T> T *liberada(T *tabla)

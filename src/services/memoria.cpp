@@ -119,6 +119,11 @@ void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo)
     return usuario(nueva);
 }
 
+size_t zarpspy_tamanyo_bloque(const void *bloque)
+{
+    return tamanyo_de(base_de(const_cast<void *>(bloque)));
+}
+
 void zarpspy_nousar_free_pp(void *puntero, size_t)
 {
     void *bloque = puntero != nullptr ? zarpspy_lee_puntero(puntero) : nullptr;

@@ -10,6 +10,8 @@
 void *zarpspy_nousar_malloc(size_t tamanyo);
 void *zarpspy_nousar_calloc(size_t num, size_t tamanyo);
 void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo);
+// The size of a block of this service, as last allocated or reallocated.
+size_t zarpspy_tamanyo_bloque(const void *bloque);
 // Frees the block *puntero holds (nothing if NULL) and sets *puntero to NULL. `tamanyo_item`
 // only says what the block holds. The slot may be unaligned: the array header is packed.
 void zarpspy_nousar_free_pp(void *puntero, size_t tamanyo_item);

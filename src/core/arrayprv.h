@@ -18,7 +18,6 @@
 
 #include "arrays.h"
 
-#include <algorithm>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
@@ -190,12 +189,20 @@ inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos, posicio
         *posi = {fila, real_pos - acumulado[fila]};
         return true;
     }
-    // Rows of uneven length: the last row whose prefix sum is not above the index.
-    fila = static_cast<size_t>(std::upper_bound(acumulado, acumulado + num_filas, size_t{real_pos}) -
-                               acumulado);
-    if (fila == 0 || !contiene(fila - 1))
+    // Rows of uneven length: bisect for the last row whose prefix sum is not above the index
+    // (a loop of its own: a standard algorithm here would be exported from the library).
+    size_t desde = 0;
+    size_t hasta = num_filas; // invariant: acumulado[desde] <= real_pos, the row is below hasta
+    while (hasta - desde > 1) {
+        const size_t medio = desde + (hasta - desde) / 2;
+        if (acumulado[medio] <= real_pos)
+            desde = medio;
+        else
+            hasta = medio;
+    }
+    if (!contiene(desde))
         return false;
-    *posi = {fila - 1, real_pos - acumulado[fila - 1]};
+    *posi = {desde, real_pos - acumulado[desde]};
     return true;
 }
 

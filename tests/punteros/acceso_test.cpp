@@ -124,7 +124,7 @@ TEST_F(AccesoPunteros, DeletePointerRemovesItWithoutFreeing)
 
 TEST_F(AccesoPunteros, DeletePointerConstIsTheSameFunction)
 {
-    EXPECT_EQ(&arr_BorrarPunteroConst, &arr_BorrarPuntero);
+    EXPECT_EQ(direccion_en_ejecucion(&arr_BorrarPunteroConst), direccion_en_ejecucion(&arr_BorrarPuntero));
     ARRAY *array = crea_punteros({&a, &b});
     arr_BorrarPunteroConst(array, 1);
     EXPECT_EQ(punteros_de(array), (Punteros{&a}));

@@ -85,7 +85,7 @@ TEST_F(BusquedaPunteros, GiveUniqueWithoutAMatchReportsAndReadsNothing)
 
 TEST_F(BusquedaPunteros, GiveUniqueConstIsTheSameFunction)
 {
-    EXPECT_EQ(&nousar_arr_dame_unica_estructura_const, &nousar_arr_dame_unica_estructura);
+    EXPECT_EQ(direccion_en_ejecucion(&nousar_arr_dame_unica_estructura_const), direccion_en_ejecucion(&nousar_arr_dame_unica_estructura));
     Estructura uno{1};
     EXPECT_EQ(nousar_arr_dame_unica_estructura_const(array, &uno, mismo_valor), arr_GetPunteroConTipo(array, 0));
 }

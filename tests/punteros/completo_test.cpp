@@ -88,7 +88,7 @@ TEST_F(CompletoPunteros, SortWithoutComparisonReportsAndChangesNothing)
 
 TEST_F(CompletoPunteros, SortConstIsTheSameFunction)
 {
-    EXPECT_EQ(&arr_QSortPunteroConTipoConst, &arr_QSortPunteroConTipo);
+    EXPECT_EQ(direccion_en_ejecucion(&arr_QSortPunteroConTipoConst), direccion_en_ejecucion(&arr_QSortPunteroConTipo));
     ARRAY *array = crea_estructuras({2, 1});
     arr_QSortPunteroConTipoConst(array, compara_valores);
     EXPECT_EQ(valores_de(array), (Valores{1, 2}));

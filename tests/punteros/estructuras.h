@@ -32,6 +32,14 @@ int valor_de(const void *estructura);
 // A pointer array holding the given pointers, and the pointers an array holds.
 ARRAY *crea_punteros(std::initializer_list<const void *> punteros);
 std::vector<void *> punteros_de(ARRAY *array);
+
+// A function's address read at run time: the compiler may not fold a comparison of two names
+// that the linker made one function.
+template <typename F> const void *direccion_en_ejecucion(F *funcion)
+{
+    F *volatile leida = funcion;
+    return reinterpret_cast<const void *>(leida);
+}
 // A structure array with a new structure per value, and the values it holds (-1 for NULL).
 ARRAY *crea_estructuras(std::initializer_list<int> valores);
 std::vector<int> valores_de(ARRAY *array);

@@ -9,18 +9,8 @@ namespace {
 
 constexpr const char *UBICACION = UBICACION_ARRAYPRV;
 
-// Exact three-way order of two values.
-template <typename T> int ordena(T a, T b)
-{
-    if (a > b)
-        return comparac_PRIMERO_MAYOR;
-    if (b > a)
-        return comparac_PRIMERO_MENOR;
-    return comparac_IGUALES;
-}
-
 // A three-way result of any sign as a comparison result.
-int signo(int resultado) { return ordena(resultado, 0); }
+int signo(int resultado) { return arrayprv_orden_exacto(resultado, 0); }
 
 } // namespace
 
@@ -58,24 +48,6 @@ void arrayprv_destruye_funciones_ordenacion(funciones_ordenacion **tabla)
     zarpspy_nousar_free_pp(tabla, sizeof(funciones_ordenacion));
 }
 
-int arrayprv_orden_byte(BYTE a, BYTE b) { return ordena(a, b); }
-int arrayprv_orden_bool(BOOL a, BOOL b)
-{
-    if (a == b)
-        return comparac_IGUALES;
-    return a != 0 ? comparac_PRIMERO_MAYOR : comparac_IGUALES;
-}
-int arrayprv_orden_char(char a, char b)
-{
-    return ordena(static_cast<signed char>(a), static_cast<signed char>(b));
-}
-int arrayprv_orden_ushort(USHORT a, USHORT b) { return ordena(a, b); }
-int arrayprv_orden_short(SHORT a, SHORT b) { return ordena(a, b); }
-int arrayprv_orden_ulong(ULONG a, ULONG b) { return ordena(a, b); }
-int arrayprv_orden_long(LONG a, LONG b) { return ordena(a, b); }
-int arrayprv_orden_ulong64(ULONG64 a, ULONG64 b) { return ordena(a, b); }
-int arrayprv_orden_long64(LONG64 a, LONG64 b) { return ordena(a, b); }
-int arrayprv_orden_double(double a, double b) { return ordena(a, b); }
 int arrayprv_orden_cadena(const char *a, const char *b) { return signo(cad_cadenas_compara(a, b)); }
 int arrayprv_orden_cadena_u(const WCHAR *a, const WCHAR *b)
 {

@@ -78,18 +78,38 @@ funciones_ordenacion *arrayprv_crea_funciones_ordenacion(
     decltype(funciones_ordenacion::func_compara_punto3D) func_compara_punto3D);
 void arrayprv_destruye_funciones_ordenacion(funciones_ordenacion **tabla);
 
-// The default ordering of each type that has one. BOOL is deliberately one-sided: it never
-// answers comparac_PRIMERO_MENOR. The double order is exact (a NaN equals everything).
-int arrayprv_orden_byte(BYTE a, BYTE b);
-int arrayprv_orden_bool(BOOL a, BOOL b);
-int arrayprv_orden_char(char a, char b);
-int arrayprv_orden_ushort(USHORT a, USHORT b);
-int arrayprv_orden_short(SHORT a, SHORT b);
-int arrayprv_orden_ulong(ULONG a, ULONG b);
-int arrayprv_orden_long(LONG a, LONG b);
-int arrayprv_orden_ulong64(ULONG64 a, ULONG64 b);
-int arrayprv_orden_long64(LONG64 a, LONG64 b);
-int arrayprv_orden_double(double a, double b);
+// Exact three-way order of two values. "Less" is asked first, so that a caller that only wants
+// to know whether the first is less compiles to one comparison.
+template <typename T> int arrayprv_orden_exacto(T a, T b)
+{
+    if (a < b)
+        return comparac_PRIMERO_MENOR;
+    if (b < a)
+        return comparac_PRIMERO_MAYOR;
+    return comparac_IGUALES;
+}
+
+// The default ordering of each type that has one, inline so that a sort specialised for the
+// type compares without a call. BOOL is deliberately one-sided: it never answers
+// comparac_PRIMERO_MENOR. The double order is exact (a NaN equals everything).
+inline int arrayprv_orden_byte(BYTE a, BYTE b) { return arrayprv_orden_exacto(a, b); }
+inline int arrayprv_orden_bool(BOOL a, BOOL b)
+{
+    if (a == b)
+        return comparac_IGUALES;
+    return a != 0 ? comparac_PRIMERO_MAYOR : comparac_IGUALES;
+}
+inline int arrayprv_orden_char(char a, char b)
+{
+    return arrayprv_orden_exacto(static_cast<signed char>(a), static_cast<signed char>(b));
+}
+inline int arrayprv_orden_ushort(USHORT a, USHORT b) { return arrayprv_orden_exacto(a, b); }
+inline int arrayprv_orden_short(SHORT a, SHORT b) { return arrayprv_orden_exacto(a, b); }
+inline int arrayprv_orden_ulong(ULONG a, ULONG b) { return arrayprv_orden_exacto(a, b); }
+inline int arrayprv_orden_long(LONG a, LONG b) { return arrayprv_orden_exacto(a, b); }
+inline int arrayprv_orden_ulong64(ULONG64 a, ULONG64 b) { return arrayprv_orden_exacto(a, b); }
+inline int arrayprv_orden_long64(LONG64 a, LONG64 b) { return arrayprv_orden_exacto(a, b); }
+inline int arrayprv_orden_double(double a, double b) { return arrayprv_orden_exacto(a, b); }
 int arrayprv_orden_cadena(const char *a, const char *b);
 int arrayprv_orden_cadena_u(const WCHAR *a, const WCHAR *b);
 

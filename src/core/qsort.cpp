@@ -1,8 +1,6 @@
-// The quicksort over positions with an explicit stack of ranges. The pivot is a copy, the scans
-// stop on anything that is not exactly comparac_PRIMERO_MENOR, the smaller part is sorted first
-// and the larger one stacked, so the stack stays logarithmic.
-#include "core/comparadores.h"
-#include "core/pilaqsor.h"
+// The quicksort through a sort table (any element type, any comparator), its entry, and the
+// element helpers by index.
+#include "core/quicksort.h"
 
 #include "services/informes.h"
 #include "services/memoria.h"
@@ -14,8 +12,49 @@ namespace {
 
 constexpr const char *UBICACION = UBICACION_ARRAYPRV;
 
-// Address of the element at index `pos`, or NULL (after the lookup's report) when there is none.
-char *direccion(const ARRAY *array, LONG pos)
+// The comparison through a sort table: identical bytes are equal without a call, anything else
+// goes to the table's adapter. The pivot and the swap space live on the tracked heap.
+class ComparacionTabla {
+public:
+    ComparacionTabla(const ARRAY *array, const funciones_ordenacion *tabla, adaptador_orden compara)
+        : tabla_(tabla), compara_(compara), size_elem_(array->size_elem),
+          pivote_(zarpspy_nousar_calloc(1, size_elem_)), temporal_(zarpspy_nousar_calloc(1, size_elem_))
+    {
+    }
+    ~ComparacionTabla()
+    {
+        zarpspy_nousar_free_pp(&pivote_, 1);
+        zarpspy_nousar_free_pp(&temporal_, 1);
+    }
+    ComparacionTabla(const ComparacionTabla &) = delete;
+    ComparacionTabla &operator=(const ComparacionTabla &) = delete;
+
+    int orden(const void *a, const void *b) const
+    {
+        if (a == nullptr || b == nullptr)
+            return comparac_IGUALES;
+        return arrayprv_compara_elementos(tabla_, compara_, a, b, size_elem_);
+    }
+    const void *pivote() const { return pivote_; }
+    void fija_pivote(const void *elemento) { std::memcpy(pivote_, elemento, size_elem_); }
+    void intercambia(void *a, void *b) const
+    {
+        std::memcpy(temporal_, a, size_elem_);
+        std::memcpy(a, b, size_elem_);
+        std::memcpy(b, temporal_, size_elem_);
+    }
+
+private:
+    const funciones_ordenacion *tabla_;
+    adaptador_orden compara_;
+    size_t size_elem_;
+    void *pivote_;
+    void *temporal_;
+};
+
+} // namespace
+
+char *arrayprv_direccion_indice(const ARRAY *array, LONG pos)
 {
     posicion_array posi;
     if (!arrayprv_posicion(array, static_cast<ULONG>(pos), &posi))
@@ -23,88 +62,12 @@ char *direccion(const ARRAY *array, LONG pos)
     return array->buffer[posi.fila] + posi.pos * array->size_elem;
 }
 
-// One sort call: the array, its table and adapter, and the pivot copy.
-struct Ordenacion {
-    ARRAY *array;
-    const funciones_ordenacion *tabla;
-    adaptador_orden compara;
-    void *pivote;
-    void *temporal;
-
-    // compare(a, b) of two addresses; an element that cannot be reached compares equal.
-    int orden(const void *a, const void *b) const
-    {
-        if (a == nullptr || b == nullptr)
-            return comparac_IGUALES;
-        return arrayprv_compara_elementos(tabla, compara, a, b, array->size_elem);
-    }
-
-    // Partitions izquierda..derecha around the element in the middle; returns the final i and j.
-    void particiona(LONG izquierda, LONG derecha, LONG &i, LONG &j) const
-    {
-        i = izquierda;
-        j = derecha;
-        const LONG punto_medio = static_cast<LONG>((int64_t{izquierda} + derecha) / 2);
-        ARR_EXIGE(punto_medio >= 0, "punto_medio >= 0");
-        arrayprv_copia_elemento(array, punto_medio, pivote, array->size_elem);
-        // Invariant: elements left of i are not greater than the pivot, those right of j not less.
-        do {
-            ARR_EXIGE(i >= 0, "i >= 0");
-            while (orden(direccion(array, i), pivote) == comparac_PRIMERO_MENOR)
-                ++i;
-            ARR_EXIGE(j >= 0, "j >= 0");
-            while (orden(pivote, direccion(array, j)) == comparac_PRIMERO_MENOR)
-                --j;
-            if (i <= j) {
-                if (i < j && orden(direccion(array, i), direccion(array, j)) != comparac_IGUALES) {
-                    ARR_EXIGE(i >= 0, "i >= 0");
-                    ARR_EXIGE(j >= 0, "j >= 0");
-                    arrayprv_intercambia_elementos(array, i, j, temporal, array->size_elem);
-                }
-                ++i;
-                --j;
-            }
-        } while (i <= j);
-    }
-
-    void ordena(pilaqsor *pila) const
-    {
-        pilaqsor_mete(pila, 0, static_cast<ULONG>(array->num_elems - 1));
-        while (!pilaqsor_vacia(pila)) {
-            ULONG sacada_izquierda = 0;
-            ULONG sacada_derecha = 0;
-            pilaqsor_saca(pila, &sacada_izquierda, &sacada_derecha);
-            LONG izquierda = static_cast<LONG>(sacada_izquierda);
-            LONG derecha = static_cast<LONG>(sacada_derecha);
-            ARR_EXIGE(izquierda >= 0, "izquierda >= 0");
-            ARR_EXIGE(derecha >= izquierda, "derecha >= izquierda");
-            while (izquierda < derecha) {
-                LONG i;
-                LONG j;
-                particiona(izquierda, derecha, i, j);
-                // Keep sorting the smaller part; stack the larger one if it has two elements.
-                if (int64_t{j} - izquierda < int64_t{derecha} - i) {
-                    if (i < derecha)
-                        pilaqsor_mete(pila, static_cast<ULONG>(i), static_cast<ULONG>(derecha));
-                    derecha = j;
-                } else {
-                    if (izquierda < j)
-                        pilaqsor_mete(pila, static_cast<ULONG>(izquierda), static_cast<ULONG>(j));
-                    izquierda = i;
-                }
-            }
-        }
-    }
-};
-
-} // namespace
-
 void arrayprv_copia_elemento(const ARRAY *array, LONG pos, void *buffer, size_t tam_copia)
 {
     if (!ARR_EXIGE(array != nullptr, "(array) != NULL") ||
         !ARR_EXIGE(tam_copia == array->size_elem, "tam_copia == array->size_elem"))
         return;
-    if (const char *elemento = direccion(array, pos))
+    if (const char *elemento = arrayprv_direccion_indice(array, pos))
         std::memcpy(buffer, elemento, tam_copia);
 }
 
@@ -112,7 +75,7 @@ void arrayprv_pon_elemento(ARRAY *array, LONG pos, const void *buffer, size_t ta
 {
     // The element size is read by value: the header is packed and the field is misaligned.
     const size_t size_elem = array->size_elem;
-    if (char *elemento = direccion(array, pos))
+    if (char *elemento = arrayprv_direccion_indice(array, pos))
         std::memcpy(elemento, buffer, std::min(tam, size_elem));
 }
 
@@ -121,8 +84,8 @@ void arrayprv_intercambia_elementos(ARRAY *array, LONG i, LONG j, void *tmp, siz
     if (!ARR_EXIGE(array != nullptr, "(array) != NULL") ||
         !ARR_EXIGE(tam_tmp == array->size_elem, "tam_tmp == array->size_elem"))
         return;
-    char *elemento_i = direccion(array, i);
-    char *elemento_j = direccion(array, j);
+    char *elemento_i = arrayprv_direccion_indice(array, i);
+    char *elemento_j = arrayprv_direccion_indice(array, j);
     if (elemento_i == nullptr || elemento_j == nullptr)
         return;
     std::memcpy(tmp, elemento_i, tam_tmp);
@@ -130,26 +93,28 @@ void arrayprv_intercambia_elementos(ARRAY *array, LONG i, LONG j, void *tmp, siz
     std::memcpy(elemento_j, tmp, tam_tmp);
 }
 
+bool arrayprv_qsort_empieza(ARRAY *array, bool argumentos, tipo_elem_array tipo_elem)
+{
+    if (!argumentos || !arrayprv_entrada_tipo(array, TEXTOS_ARRAY, true, Modo::estricto, tipo_elem) ||
+        array->num_elems < 2)
+        return false;
+    array->en_bucle = CIERTO;
+    // Positions are signed 32-bit from here on: a larger array is reported and left as it is,
+    // before its stack (a sixth of the count) is asked for.
+    if (ARR_EXIGE(array->num_elems <= LONG_MAX, "array->num_elems <= LONG_MAX"))
+        return true;
+    arrayprv_qsort_termina(array);
+    return false;
+}
+
 void arrayprv_qsort(ARRAY *array, const funciones_ordenacion *tabla, adaptador_orden compara,
                     tipo_elem_array tipo_elem)
 {
     const bool hay_array = ARR_EXIGE(array != nullptr, "(array) != NULL");
     const bool hay_compara = ARR_EXIGE(compara != nullptr, "(compara) != NULL");
-    if (!(hay_array && hay_compara) ||
-        !arrayprv_entrada_tipo(array, TEXTOS_ARRAY, true, Modo::estricto, tipo_elem) ||
-        array->num_elems < 2)
+    if (!arrayprv_qsort_empieza(array, hay_array && hay_compara, tipo_elem))
         return;
-    array->en_bucle = CIERTO;
-    // Positions are signed 32-bit from here on: a larger array is reported and left as it is,
-    // before its stack (a sixth of the count) is asked for.
-    if (ARR_EXIGE(array->num_elems <= LONG_MAX, "array->num_elems <= LONG_MAX")) {
-        void *pivote = zarpspy_nousar_calloc(1, array->size_elem);
-        void *temporal = zarpspy_nousar_calloc(1, array->size_elem);
-        pilaqsor *pila = pilaqsor_crea(static_cast<ULONG>(array->num_elems));
-        Ordenacion{array, tabla, compara, pivote, temporal}.ordena(pila);
-        pilaqsor_destruye(&pila);
-        zarpspy_nousar_free_pp(&pivote, 1);
-        zarpspy_nousar_free_pp(&temporal, 1);
-    }
-    array->en_bucle = FALSO;
+    ComparacionTabla comparacion(array, tabla, compara);
+    arrayprv_quicksort(array, comparacion);
+    arrayprv_qsort_termina(array);
 }

@@ -6,6 +6,7 @@
 
 #include "core/arrayprv.h"
 #include "core/comparadores.h"
+#include "core/quicksort.h"
 #include "services/cadenas.h"
 #include "services/informes.h"
 
@@ -189,9 +190,13 @@ template <typename C> struct FamiliaCadena {
         return num_elems;
     }
 
+    // Without a comparator, the quicksort specialised for the default order.
     static void ordena(ARRAY *array, comparador_de<TAG> comparador)
     {
-        arrayprv_ordena<TAG>(array, comparador != nullptr ? comparador : R::orden_por_defecto);
+        if (comparador == nullptr)
+            arrayprv_qsort_valores<const C *, R::orden_por_defecto>(array, TAG);
+        else
+            arrayprv_ordena<TAG>(array, comparador);
     }
 
     static BOOL son_iguales(ARRAY *array1, ARRAY *array2, igualdad_t igualdad)

@@ -7,6 +7,7 @@
 
 #include "core/arrayprv.h"
 #include "core/comparadores.h"
+#include "core/quicksort.h"
 #include "services/informes.h"
 
 #include <cstring>
@@ -179,9 +180,15 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
         return encontrada < ARR_ULONG_MAX;
     }
 
+    // Without a comparator, a type with a default order sorts through the quicksort specialised
+    // for it; a type without one (the points) has its missing comparator reported.
     static void ordena(ARRAY *array, comparador_de<TAG> comparador)
     {
-        arrayprv_ordena<TAG>(array, comparador != nullptr ? comparador : R::orden_por_defecto);
+        if constexpr (R::orden_por_defecto != nullptr) {
+            if (comparador == nullptr)
+                return arrayprv_qsort_valores<T, R::orden_por_defecto>(array, TAG);
+        }
+        arrayprv_ordena<TAG>(array, comparador);
     }
 
     // Whole-array equality: exact for BOOL and the integers, the caller's predicate for doubles.

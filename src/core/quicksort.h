@@ -1,0 +1,289 @@
+// The quicksort over positions with an explicit stack of ranges, written once for every way of
+// comparing: the pivot is a copy, the scans stop on anything that is not exactly
+// comparac_PRIMERO_MENOR, the smaller part is sorted first and the larger one stacked, so the
+// stack stays logarithmic. The scans reach consecutive elements through the current row (a
+// cursor) instead of a fresh lookup per element; the comparisons, their order and the swaps are
+// the same whatever the comparison.
+//
+// A comparison (Comparacion) provides:
+//   int orden(const void *a, const void *b)   three-way order of two element addresses, either
+//                                             of which may be NULL (an element that cannot be
+//                                             reached compares equal)
+//   const void *pivote()                      the address of the pivot copy
+//   void fija_pivote(const void *elemento)    copies an element into the pivot
+//   void intercambia(void *a, void *b)        swaps two elements
+#pragma once
+
+#include "core/arrayprv.h"
+#include "core/comparadores.h"
+#include "core/pilaqsor.h"
+#include "services/informes.h"
+
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+
+// Address of the element at index `pos`, or NULL (after the lookup's report) when there is none.
+char *arrayprv_direccion_indice(const ARRAY *array, LONG pos);
+
+// Where one scan of the quicksort stands: an index and, while the index names an element, its
+// row, offset and address. Stepping stays inside the row when it can. An index outside the array
+// has no address; asking for it goes through the documented lookup, which reports it.
+class CursorOrden {
+public:
+    CursorOrden(const ARRAY *array, LONG indice) : array_(array), size_elem_(array->size_elem)
+    {
+        situa(indice);
+    }
+
+    // The cursor at `indice`, reached from `base` without a lookup when it is in base's row.
+    CursorOrden(const CursorOrden &base, LONG indice) : CursorOrden(base)
+    {
+        if (elemento_ != nullptr && indice >= indice_ &&
+            static_cast<size_t>(indice - indice_) < long_fila_ - pos_) {
+            const size_t paso = static_cast<size_t>(indice - indice_);
+            indice_ = indice;
+            pos_ += paso;
+            elemento_ += paso * size_elem_;
+        } else {
+            situa(indice);
+        }
+    }
+
+    LONG indice() const { return indice_; }
+
+    char *elemento() const
+    {
+        if (elemento_ != nullptr) [[likely]]
+            return elemento_;
+        return arrayprv_direccion_indice(array_, indice_);
+    }
+
+    void avanza()
+    {
+        if (elemento_ != nullptr && pos_ + 1 < long_fila_) [[likely]] {
+            ++indice_;
+            ++pos_;
+            elemento_ += size_elem_;
+            return;
+        }
+        situa(indice_ + 1);
+    }
+
+    void retrocede()
+    {
+        if (elemento_ != nullptr && pos_ > 0) [[likely]] {
+            --indice_;
+            --pos_;
+            elemento_ -= size_elem_;
+            return;
+        }
+        situa(indice_ - 1);
+    }
+
+private:
+    void situa(LONG indice)
+    {
+        indice_ = indice;
+        posicion_array posi;
+        if (indice >= 0 && arrayprv_posicion_rapida(array_, static_cast<ULONG>(indice), &posi)) {
+            pos_ = posi.pos;
+            long_fila_ = array_->long_filas[posi.fila];
+            elemento_ = array_->buffer[posi.fila] + posi.pos * size_elem_;
+        } else {
+            elemento_ = nullptr;
+        }
+    }
+
+    const ARRAY *array_;
+    size_t size_elem_;
+    LONG indice_ = 0;
+    size_t pos_ = 0;       // offset inside the row, while elemento_ is set
+    size_t long_fila_ = 0; // elements in that row
+    char *elemento_ = nullptr;
+};
+
+template <typename Comparacion> class Quicksort {
+public:
+    Quicksort(ARRAY *array, Comparacion &comparacion) : array_(array), comparacion_(comparacion) {}
+
+    void ordena(pilaqsor *pila)
+    {
+        constexpr const char *UBICACION = UBICACION_ARRAYPRV;
+        pilaqsor_mete(pila, 0, static_cast<ULONG>(array_->num_elems - 1));
+        while (!pilaqsor_vacia(pila)) {
+            ULONG sacada_izquierda = 0;
+            ULONG sacada_derecha = 0;
+            pilaqsor_saca(pila, &sacada_izquierda, &sacada_derecha);
+            LONG izquierda = static_cast<LONG>(sacada_izquierda);
+            LONG derecha = static_cast<LONG>(sacada_derecha);
+            ARR_EXIGE(izquierda >= 0, "izquierda >= 0");
+            ARR_EXIGE(derecha >= izquierda, "derecha >= izquierda");
+            while (izquierda < derecha) {
+                LONG i;
+                LONG j;
+                particiona(izquierda, derecha, i, j);
+                // Keep sorting the smaller part; stack the larger one if it has two elements.
+                if (int64_t{j} - izquierda < int64_t{derecha} - i) {
+                    if (i < derecha)
+                        pilaqsor_mete(pila, static_cast<ULONG>(i), static_cast<ULONG>(derecha));
+                    derecha = j;
+                } else {
+                    if (izquierda < j)
+                        pilaqsor_mete(pila, static_cast<ULONG>(izquierda), static_cast<ULONG>(j));
+                    izquierda = i;
+                }
+            }
+        }
+    }
+
+private:
+    // Partitions izquierda..derecha around the element in the middle; returns the final i and j.
+    void particiona(LONG izquierda, LONG derecha, LONG &i, LONG &j)
+    {
+        constexpr const char *UBICACION = UBICACION_ARRAYPRV;
+        CursorOrden ci(array_, izquierda);
+        CursorOrden cj(ci, derecha);
+        const LONG punto_medio = static_cast<LONG>((int64_t{izquierda} + derecha) / 2);
+        ARR_EXIGE(punto_medio >= 0, "punto_medio >= 0");
+        if (const char *medio = CursorOrden(ci, punto_medio).elemento())
+            comparacion_.fija_pivote(medio);
+        const void *pivote = comparacion_.pivote();
+        // Invariant: elements left of i are not greater than the pivot, those right of j not less.
+        do {
+            ARR_EXIGE(ci.indice() >= 0, "i >= 0");
+            while (comparacion_.orden(ci.elemento(), pivote) == comparac_PRIMERO_MENOR)
+                ci.avanza();
+            ARR_EXIGE(cj.indice() >= 0, "j >= 0");
+            while (comparacion_.orden(pivote, cj.elemento()) == comparac_PRIMERO_MENOR)
+                cj.retrocede();
+            if (ci.indice() <= cj.indice()) {
+                if (ci.indice() < cj.indice() &&
+                    comparacion_.orden(ci.elemento(), cj.elemento()) != comparac_IGUALES) {
+                    ARR_EXIGE(ci.indice() >= 0, "i >= 0");
+                    ARR_EXIGE(cj.indice() >= 0, "j >= 0");
+                    intercambia(ci, cj);
+                }
+                ci.avanza();
+                cj.retrocede();
+            }
+        } while (ci.indice() <= cj.indice());
+        i = ci.indice();
+        j = cj.indice();
+    }
+
+    void intercambia(const CursorOrden &ci, const CursorOrden &cj)
+    {
+        char *a = ci.elemento();
+        char *b = cj.elemento();
+        if (a != nullptr && b != nullptr)
+            comparacion_.intercambia(a, b);
+    }
+
+    ARRAY *array_;
+    Comparacion &comparacion_;
+};
+
+// The entry of a sort: runs the entry checks (after the caller's own, given in `argumentos`) and
+// marks the array busy. False when there is nothing to sort; otherwise the caller sorts and then
+// calls arrayprv_qsort_termina.
+bool arrayprv_qsort_empieza(ARRAY *array, bool argumentos, tipo_elem_array tipo_elem);
+inline void arrayprv_qsort_termina(ARRAY *array) { array->en_bucle = FALSO; }
+
+template <typename Comparacion> void arrayprv_quicksort(ARRAY *array, Comparacion &comparacion)
+{
+    pilaqsor *pila = pilaqsor_crea(static_cast<ULONG>(array->num_elems));
+    Quicksort<Comparacion>(array, comparacion).ordena(pila);
+    pilaqsor_destruye(&pila);
+}
+
+// A default order, inlined: the values are read at their type and compared by ORDEN directly.
+// Identical strings (the same pointer) are equal without a call, as through the sort table; for
+// numbers the shortcut is left out, every default order calls identical values equal.
+template <typename T, int (*ORDEN)(T, T)> class ComparacionValores {
+public:
+    int orden(const void *a, const void *b) const
+    {
+        if (a == nullptr || b == nullptr) [[unlikely]]
+            return comparac_IGUALES;
+        const T valor_a = lee(a);
+        const T valor_b = lee(b);
+        if constexpr (std::is_pointer_v<T>) {
+            if (valor_a == valor_b)
+                return comparac_IGUALES;
+        }
+        return ORDEN(valor_a, valor_b);
+    }
+    const void *pivote() const { return &pivote_; }
+    void fija_pivote(const void *elemento) { pivote_ = lee(elemento); }
+    void intercambia(void *a, void *b) const
+    {
+        const T valor_a = lee(a);
+        std::memcpy(a, b, sizeof(T));
+        std::memcpy(b, &valor_a, sizeof(T));
+    }
+
+private:
+    static T lee(const void *elemento)
+    {
+        T valor;
+        std::memcpy(&valor, elemento, sizeof valor);
+        return valor;
+    }
+
+    T pivote_{};
+};
+
+template <auto ORDEN> inline constexpr bool es_orden_bool = false;
+template <> inline constexpr bool es_orden_bool<arrayprv_orden_bool> = true;
+
+// With a total order on numbers (not BOOL's one-sided one), an array already in order (no NaN)
+// is one the quicksort never changes, and a strictly decreasing one has a single sorted result:
+// both are finished in one walk (the second reversed by swaps). True when the array was one of
+// them; false, having compared a few leading elements at most on random data, otherwise.
+template <typename T, int (*ORDEN)(T, T), typename Comparacion>
+bool arrayprv_ordena_si_monotono(ARRAY *array, Comparacion &comparacion)
+{
+    bool creciente = true;
+    bool decreciente = true;
+    bool primero = true;
+    T anterior{};
+    arrayprv_visita_todos(array, [&](char *elemento) {
+        T valor;
+        std::memcpy(&valor, elemento, sizeof valor);
+        if (valor != valor) // NaN: equal to everything, so no order follows from neighbours
+            return creciente = decreciente = false;
+        if (!primero) {
+            const int orden = ORDEN(anterior, valor);
+            creciente = creciente && orden != comparac_PRIMERO_MAYOR;
+            decreciente = decreciente && orden == comparac_PRIMERO_MAYOR;
+        }
+        primero = false;
+        anterior = valor;
+        return creciente || decreciente;
+    });
+    if (creciente)
+        return true;
+    if (!decreciente)
+        return false;
+    CursorOrden delante(array, 0);
+    CursorOrden detras(array, static_cast<LONG>(array->num_elems - 1));
+    for (; delante.indice() < detras.indice(); delante.avanza(), detras.retrocede())
+        comparacion.intercambia(delante.elemento(), detras.elemento());
+    return true;
+}
+
+// Sorts by a type's default order (whose calls no caller can observe), with the same checks,
+// reports, comparisons and swaps as arrayprv_qsort with that order in its table.
+template <typename T, int (*ORDEN)(T, T)> void arrayprv_qsort_valores(ARRAY *array, tipo_elem_array tipo_elem)
+{
+    constexpr const char *UBICACION = UBICACION_ARRAYPRV;
+    const bool hay_array = ARR_EXIGE(array != nullptr, "(array) != NULL");
+    if (!arrayprv_qsort_empieza(array, hay_array, tipo_elem))
+        return;
+    ComparacionValores<T, ORDEN> comparacion;
+    constexpr bool orden_total = std::is_arithmetic_v<T> && !es_orden_bool<ORDEN>;
+    if (!orden_total || !arrayprv_ordena_si_monotono<T, ORDEN>(array, comparacion))
+        arrayprv_quicksort(array, comparacion);
+    arrayprv_qsort_termina(array);
+}

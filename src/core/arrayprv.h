@@ -168,42 +168,34 @@ void arrayprv_borra_en_fila(ARRAY *array, const posicion_array *posi);
 
 // ---- Positions (the one place that maps an index to a row and offset) ----------------------
 
+// The row of a valid index when rows are of uneven length: from the row the average row length
+// predicts, jumps that cannot overshoot (a row holds at most long_max_fila_en_elem elements),
+// then bisection of what is left. The prefix sums confirm the answer; false leaves the index to
+// arrayprv_posicion.
+bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_array *posi);
+
 // Finds the row of a valid index without the documented search when it can: directly when every
-// row before it is full, else by bisecting the prefix sums. The prefix sums confirm every answer;
-// false (without a report) leaves the index, and any inconsistent header, to arrayprv_posicion.
-inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos, posicion_array *posi)
+// row before it is full, else through arrayprv_posicion_irregular. The prefix sums confirm every
+// answer; false (without a report) leaves the index, and any inconsistent header, to
+// arrayprv_posicion.
+[[gnu::always_inline]] inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos,
+                                                            posicion_array *posi)
 {
     const size_t num_filas = array->num_filas;
     const size_t long_max = array->long_max_fila_en_elem;
-    if (real_pos >= array->num_elems || num_filas == 0 || long_max == 0)
+    if (real_pos >= array->num_elems || num_filas == 0 || long_max == 0) [[unlikely]]
         return false;
-    const size_t *const acumulado = array->acumulado_filas;
-    const size_t *const long_filas = array->long_filas;
-    const auto contiene = [&](size_t fila) {
-        return acumulado[fila] <= real_pos && real_pos - acumulado[fila] < long_filas[fila];
-    };
     // Rows of a power-of-two length (every element size but 24 bytes) divide by a shift.
-    size_t fila = (long_max & (long_max - 1)) == 0 ? real_pos >> __builtin_ctzll(long_max)
-                                                   : real_pos / long_max;
-    if (fila < num_filas && contiene(fila)) [[likely]] {
-        *posi = {fila, real_pos - acumulado[fila]};
-        return true;
+    const size_t fila = (long_max & (long_max - 1)) == 0 ? real_pos >> __builtin_ctzll(long_max)
+                                                         : real_pos / long_max;
+    if (fila < num_filas) [[likely]] {
+        const size_t inicio = array->acumulado_filas[fila];
+        if (inicio <= real_pos && real_pos - inicio < array->long_filas[fila]) [[likely]] {
+            *posi = {fila, real_pos - inicio};
+            return true;
+        }
     }
-    // Rows of uneven length: bisect for the last row whose prefix sum is not above the index
-    // (a loop of its own: a standard algorithm here would be exported from the library).
-    size_t desde = 0;
-    size_t hasta = num_filas; // invariant: acumulado[desde] <= real_pos, the row is below hasta
-    while (hasta - desde > 1) {
-        const size_t medio = desde + (hasta - desde) / 2;
-        if (acumulado[medio] <= real_pos)
-            desde = medio;
-        else
-            hasta = medio;
-    }
-    if (!contiene(desde))
-        return false;
-    *posi = {desde, real_pos - acumulado[desde]};
-    return true;
+    return arrayprv_posicion_irregular(array, real_pos, posi);
 }
 
 // Maps `real_pos` to its row and offset; false (after the reports) when there is no such element.

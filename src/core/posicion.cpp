@@ -52,7 +52,66 @@ bool busca_dicotomica(const ARRAY *array, ULONG real_pos, posicion_array *posi)
     return true;
 }
 
+// Rows of prefix sums compared at once around a predicted row.
+constexpr size_t VENTANA = 8;
+
+// In the window of VENTANA rows around `centro`, the rows whose prefix sum is not above the index
+// are those up to the one that holds it: counting them, without branches, names that row if it
+// lies in the window. Needs num_filas >= VENTANA; the caller confirms the row.
+size_t fila_en_ventana(const size_t *acumulado, size_t num_filas, size_t centro, ULONG real_pos)
+{
+    const size_t base =
+        std::min(centro > VENTANA / 2 ? centro - VENTANA / 2 : 0, num_filas - VENTANA);
+    size_t cuenta = 0;
+    for (size_t k = 0; k < VENTANA; ++k)
+        cuenta += acumulado[base + k] <= real_pos ? 1 : 0;
+    return cuenta > 0 ? base + cuenta - 1 : base;
+}
+
 } // namespace
+
+bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_array *posi)
+{
+    const size_t num_filas = array->num_filas;
+    const size_t num_elems = array->num_elems;
+    if (real_pos >= num_elems || num_filas == 0)
+        return false;
+    const size_t *const acumulado = array->acumulado_filas;
+    const size_t *const long_filas = array->long_filas;
+    const auto contiene = [&](size_t fila) {
+        return acumulado[fila] <= real_pos && real_pos - acumulado[fila] < long_filas[fila];
+    };
+    const auto encontrada = [&](size_t fila) {
+        *posi = {fila, real_pos - acumulado[fila]};
+        return true;
+    };
+    if (num_filas >= VENTANA) {
+        // The row the average row length predicts, corrected once by how many elements its
+        // prefix sum is off, at the same average.
+        const double filas_por_elemento = static_cast<double>(num_filas) / static_cast<double>(num_elems);
+        const auto acotada = [&](double fila) {
+            return fila <= 0 ? size_t{0} : std::min(static_cast<size_t>(fila), num_filas - 1);
+        };
+        const size_t prevista = acotada(real_pos * filas_por_elemento);
+        const double desvio = static_cast<double>(real_pos) - static_cast<double>(acumulado[prevista]);
+        const size_t fila = fila_en_ventana(
+            acumulado, num_filas,
+            acotada(static_cast<double>(prevista) + desvio * filas_por_elemento), real_pos);
+        if (contiene(fila))
+            return encontrada(fila);
+    }
+    // Bisection for the last row whose prefix sum is not above the index.
+    size_t desde = 0;
+    size_t hasta = num_filas;
+    while (hasta - desde > 1) {
+        const size_t medio = desde + (hasta - desde) / 2;
+        if (acumulado[medio] <= real_pos)
+            desde = medio;
+        else
+            hasta = medio;
+    }
+    return contiene(desde) && encontrada(desde);
+}
 
 bool arrayprv_posicion(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 {

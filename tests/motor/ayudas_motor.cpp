@@ -13,7 +13,7 @@ std::vector<size_t> tabla(const size_t *datos, size_t num_filas)
 
 } // namespace
 
-ARRAY *crea_doubles_en_filas(std::initializer_list<size_t> cuentas, ULONG long_fila_en_bytes)
+ARRAY *crea_doubles_en_filas(const std::vector<size_t> &cuentas, ULONG long_fila_en_bytes)
 {
     ARRAY *array = arrayprv_crea(0, elem_DOUBLE_NO_USAR, long_fila_en_bytes);
     for (size_t cuenta : cuentas)

@@ -11,7 +11,7 @@
 
 // A Double array whose rows hold the given counts, each row full to its capacity (the layout
 // that adding rows leaves), with the elements numbered 1, 2, 3 ... in order.
-ARRAY *crea_doubles_en_filas(std::initializer_list<size_t> cuentas,
+ARRAY *crea_doubles_en_filas(const std::vector<size_t> &cuentas,
                              ULONG long_fila_en_bytes = LONG_FILA_POR_DEFECTO);
 
 // A Double array of the elements 1 .. n appended one by one into rows of the given size.

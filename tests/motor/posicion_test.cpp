@@ -6,7 +6,10 @@
 #include "core/arrayprv.h"
 #include "motor/ayudas_motor.h"
 
+#include <algorithm>
+#include <random>
 #include <tuple>
+#include <vector>
 
 namespace {
 
@@ -78,6 +81,53 @@ TEST_F(Posicion, TheBisectionOverManyUnevenRowsAgreesWithTheRowLengths)
                                           1, 2, 1, 1, 5});
     ASSERT_EQ(size_t{array->num_filas}, 21u);
     comprueba_todas_las_posiciones(array);
+    arr_DestruyeDouble(&array);
+}
+
+// The direct lookup (no report, no documented search) over rows of uneven length, at every index:
+// rows filled at random, half-full rows before full ones (the average row length mispredicts
+// the middle), and a few long runs of one-element rows.
+TEST_F(Posicion, TheFastLookupOverUnevenRowsAgreesWithTheRowLengths)
+{
+    std::mt19937 azar(5);
+    std::vector<size_t> al_azar(300);
+    for (size_t &cuenta : al_azar)
+        cuenta = 1 + azar() % 256;
+    std::vector<size_t> mitad_y_llenas(200, 128);
+    mitad_y_llenas.insert(mitad_y_llenas.end(), 200, 256);
+    std::vector<size_t> con_rachas(100, 256);
+    for (size_t fila : {10, 50, 90})
+        std::fill_n(con_rachas.begin() + static_cast<std::ptrdiff_t>(fila), 9, size_t{1});
+    for (const auto &cuentas : {al_azar, mitad_y_llenas, con_rachas}) {
+        ARRAY *array = crea_doubles_en_filas(cuentas);
+        for (ULONG indice = 0; indice < array->num_elems; ++indice) {
+            posicion_array posi{};
+            ASSERT_TRUE(arrayprv_posicion_rapida(array, indice, &posi)) << "index " << indice;
+            ASSERT_EQ(fila_y_pos(posi), posicion_contada(cuentas, indice)) << "index " << indice;
+        }
+        posicion_array posi{};
+        EXPECT_FALSE(arrayprv_posicion_rapida(array, static_cast<ULONG>(array->num_elems), &posi));
+        arr_DestruyeDouble(&array);
+    }
+}
+
+// Prefix sums that contradict the row lengths: the direct lookup gives up (the documented search
+// then reports), and never answers a position the prefix sums do not confirm.
+TEST_F(Posicion, TheFastLookupGivesUpOnInconsistentPrefixSums)
+{
+    std::vector<size_t> cuentas(100, 100);
+    ARRAY *array = crea_doubles_en_filas(cuentas);
+    const size_t original = array->acumulado_filas[50];
+    array->acumulado_filas[50] = 7000;
+    for (ULONG indice : {4950u, 5000u, 5050u, 6999u}) {
+        posicion_array posi{};
+        if (arrayprv_posicion_rapida(array, indice, &posi)) {
+            EXPECT_LE(array->acumulado_filas[posi.fila], indice);
+            EXPECT_EQ(posi.pos, indice - array->acumulado_filas[posi.fila]);
+            EXPECT_LT(posi.pos, array->long_filas[posi.fila]);
+        }
+    }
+    array->acumulado_filas[50] = original;
     arr_DestruyeDouble(&array);
 }
 

@@ -48,7 +48,6 @@ void arrayprv_destruye_funciones_ordenacion(funciones_ordenacion **tabla)
     zarpspy_nousar_free_pp(tabla, sizeof(funciones_ordenacion));
 }
 
-int arrayprv_orden_cadena(const char *a, const char *b) { return signo(cad_cadenas_compara(a, b)); }
 int arrayprv_orden_cadena_u(const WCHAR *a, const WCHAR *b)
 {
     return signo(widestr_nousar_compara(a, b, UBICACION, __LINE__));

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/arrayprv.h"
+#include "services/cadenas.h"
 #include "services/informes.h"
 
 #include <cstring>
@@ -110,7 +111,10 @@ inline int arrayprv_orden_long(LONG a, LONG b) { return arrayprv_orden_exacto(a,
 inline int arrayprv_orden_ulong64(ULONG64 a, ULONG64 b) { return arrayprv_orden_exacto(a, b); }
 inline int arrayprv_orden_long64(LONG64 a, LONG64 b) { return arrayprv_orden_exacto(a, b); }
 inline int arrayprv_orden_double(double a, double b) { return arrayprv_orden_exacto(a, b); }
-int arrayprv_orden_cadena(const char *a, const char *b);
+inline int arrayprv_orden_cadena(const char *a, const char *b)
+{
+    return arrayprv_orden_exacto(cad_cadenas_compara(a, b), 0);
+}
 int arrayprv_orden_cadena_u(const WCHAR *a, const WCHAR *b);
 
 // TRUE exactly when the two pointers are the same pointer.

@@ -55,13 +55,6 @@ void zarpstr_destruyeListaCadenas(ULONG num, void *tabla)
     zarpspy_nousar_free_pp(tabla, sizeof(void *));
 }
 
-int cad_cadenas_compara(const char *a, const char *b)
-{
-    if (a == nullptr || b == nullptr)
-        return (a != nullptr) - (b != nullptr);
-    return std::strcmp(a, b);
-}
-
 BOOL cad_cadenas_iguales(const char *a, const char *b)
 {
     if (a == nullptr || b == nullptr)

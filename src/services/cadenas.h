@@ -7,11 +7,19 @@
 
 #include "arrays.h"
 
+#include <cstring>
+
 // cad_copia_cadena and zarpstr_destruye are exported; see arrays.h.
 // Frees the `num` blocks listed in the table whose address is `tabla`, then the table, and sets
 // the table pointer to NULL (that pointer may be unaligned, as in the packed array header).
 void zarpstr_destruyeListaCadenas(ULONG num, void *tabla);
-int cad_cadenas_compara(const char *a, const char *b);
+// strcmp's order, NULL first; inline, as the string sort's default order calls it.
+inline int cad_cadenas_compara(const char *a, const char *b)
+{
+    if (a == nullptr || b == nullptr)
+        return (a != nullptr) - (b != nullptr);
+    return std::strcmp(a, b);
+}
 BOOL cad_cadenas_iguales(const char *a, const char *b);
 BOOL cad_cadenas_iguales_may_o_min(const char *a, const char *b);
 void cad_concatena(char **destino, const char *cadena);

@@ -211,17 +211,20 @@ void *arrayprv_direccion_elemento(const ARRAY *array, const posicion_array *posi
 
 size_t arrayprv_append_comprobado(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem);
 // Appends one element and returns the new count (0 when the array cannot be used). The common
-// case, a live idle array whose last row has room, stores the element at once.
+// case, a live idle array whose last row has room, stores the element at once. A caller that
+// knows its element's size at compile time gives it as TAMANYO (the header must agree), so the
+// copy is a plain store; 0 copies the header's size.
+template <size_t TAMANYO = 0>
 inline size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem)
 {
     if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
         array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem && array->num_filas > 0 &&
-        !arrayprv_es_modo_comprobacion()) [[likely]] {
+        (TAMANYO == 0 || array->size_elem == TAMANYO) && !arrayprv_es_modo_comprobacion()) [[likely]] {
+        const size_t size_elem = TAMANYO != 0 ? TAMANYO : size_t{array->size_elem};
         const size_t ultima = array->num_filas - 1;
         size_t *const long_filas = array->long_filas;
         if (long_filas[ultima] < array->max_long_filas[ultima]) [[likely]] {
-            std::memcpy(array->buffer[ultima] + long_filas[ultima] * array->size_elem, elemento,
-                        array->size_elem);
+            std::memcpy(array->buffer[ultima] + long_filas[ultima] * size_elem, elemento, size_elem);
             ++long_filas[ultima];
             return ++array->num_elems;
         }
@@ -245,15 +248,17 @@ inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array ti
 
 void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
                              tipo_elem_array tipo_elem);
-inline void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento,
-                         tipo_elem_array tipo_elem)
+// Overwrites one element; TAMANYO as for arrayprv_append.
+template <size_t TAMANYO = 0>
+inline void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
     if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
         array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem &&
+        (TAMANYO == 0 || array->size_elem == TAMANYO) &&
         arrayprv_posicion_rapida(array, real_pos, &posi)) [[likely]] {
-        std::memcpy(array->buffer[posi.fila] + posi.pos * array->size_elem, elemento,
-                    array->size_elem);
+        const size_t size_elem = TAMANYO != 0 ? TAMANYO : size_t{array->size_elem};
+        std::memcpy(array->buffer[posi.fila] + posi.pos * size_elem, elemento, size_elem);
         return;
     }
     arrayprv_set_comprobado(array, real_pos, elemento, tipo_elem);

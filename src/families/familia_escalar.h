@@ -123,7 +123,7 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
         return arrayprv_crea(tamanyo_inicial, TAG, LONG_FILA_POR_DEFECTO);
     }
 
-    static void append(ARRAY *array, T valor) { arrayprv_append(array, &valor, TAG); }
+    static void append(ARRAY *array, T valor) { arrayprv_append<sizeof(T)>(array, &valor, TAG); }
 
     // Reports a count below the rule's minimum from the module `ubicacion`, then appends the
     // value as many times as the count says.
@@ -154,7 +154,7 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
         return elemento != nullptr ? lee_elemento<T>(elemento) : T{};
     }
 
-    static void set(ARRAY *array, ULONG pos, T valor) { arrayprv_set(array, pos, &valor, TAG); }
+    static void set(ARRAY *array, ULONG pos, T valor) { arrayprv_set<sizeof(T)>(array, pos, &valor, TAG); }
 
     static void inicializa(ARRAY *array, T valor) { arrayprv_inicializa(array, &valor, TAG); }
 

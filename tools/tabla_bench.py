@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""Turns the benchmark program's JSON output into bench/RESULTS.md: one table of ratios (this
-library's time divided by each peer's, on the same operation and size) and one of bytes per
-element. Benchmark names have the form "operation/container/size"."""
+"""Turns the benchmark program's JSON output into bench/RESULTS.md: the targets met or missed, one
+table of ratios (this library's time divided by each peer's, on the same operation and size), one
+of bytes per element, and the output of the 4·10^9-element run when given. Benchmark names have
+the form "operation/container/size"."""
 import json
 import platform
 import re
+import statistics
 import subprocess
 import sys
 from collections import defaultdict
@@ -30,10 +32,60 @@ def maquina(contexto):
             f"{platform.system()} {platform.release()}, {compilador}; run {contexto.get('date')}")
 
 
+# The targets: (operation, size, peer, largest ratio). Ratios are this library's time divided by
+# the peer's; a peer of None is a bytes-per-element bound on this library alone.
+OBJETIVOS = [
+    ("append", 10**7, "std::deque", 1.5),
+    ("append", 10**7, "GArray", 1.0),
+    ("random_get", 10**6, "std::deque", 2.0),
+    ("random_get", 10**7, "std::deque", 2.0),
+    ("random_get", 10**6, "GSequence", 0.01),
+    ("random_get_after_inserts", 10**6, "std::deque", 4.0),
+    ("random_get_after_inserts", 10**7, "std::deque", 4.0),
+    ("random_get_after_inserts", 10**6, "GSequence", 0.01),
+    ("random_get_after_inserts", 10**7, "GSequence", 0.01),
+    ("traversal", 10**7, "std::vector", 1.1),
+    ("random_insert_delete", 10**6, "std::vector", 0.01),
+    ("random_insert_delete", 10**6, "GArray", 0.01),
+    ("random_insert_delete", 10**6, "std::deque", 0.01),
+    ("random_insert_delete", 10**6, "GSequence", 0.25),
+    ("sort_random", 10**6, "qsort", 0.6),
+    ("sort_random", 10**6, "std::sort", 1.5),
+    ("sort_user_comparator", 10**6, "qsort", 1.3),
+    ("sort_sorted", 10**6, "qsort", 0.3),
+    ("sort_reversed", 10**6, "qsort", 0.3),
+    ("sort_equal", 10**6, "qsort", 0.3),
+    ("bytes_after_appends", 10**6, None, 8.4),
+    ("bytes_after_appends", 10**7, None, 8.4),
+    ("bytes_after_appends", 10**8, None, 8.4),
+    ("bytes_after_inserts", 10**6, None, 12.0),
+    ("bytes_after_inserts", 10**7, None, 12.0),
+]
+
+
+def imprime_objetivos(tiempos, bytes_por):
+    print("## Targets\n")
+    print("| operation | size | against | target | measured | met |")
+    print("|---|---:|---|---:|---:|---|")
+    for operacion, tamanyo, peer, limite in OBJETIVOS:
+        if peer is None:
+            medida = bytes_por.get((operacion, tamanyo), {}).get("arrays")
+            contra = "bytes per element"
+        else:
+            v = tiempos.get((operacion, tamanyo), {})
+            medida = v["arrays"] / v[peer] if "arrays" in v and v.get(peer) else None
+            contra = peer
+        texto = "not run" if medida is None else f"{medida:.3f}"
+        cumple = "" if medida is None else ("yes" if medida <= limite else "**no**")
+        print(f"| {operacion} | {tamanyo:,} | {contra} | ≤ {limite} | {texto} | {cumple} |")
+    print()
+
+
 def main(ruta):
     datos = json.load(open(ruta))
-    tiempos = defaultdict(dict)  # (operation, size) -> container -> ns per iteration
-    bytes_por = defaultdict(dict)
+    # (operation, size) -> container -> every repetition's value; the median is reported
+    muestras_tiempo = defaultdict(lambda: defaultdict(list))
+    muestras_bytes = defaultdict(lambda: defaultdict(list))
     for b in datos["benchmarks"]:
         if b.get("run_type") == "aggregate":
             continue
@@ -42,14 +94,21 @@ def main(ruta):
         operacion, contenedor, tamanyo = partes
         clave = (operacion, int(tamanyo))
         if "bytes_per_element" in b:
-            bytes_por[clave][contenedor] = b["bytes_per_element"]
+            muestras_bytes[clave][contenedor].append(b["bytes_per_element"])
         else:
-            tiempos[clave][contenedor] = b["real_time"]
+            muestras_tiempo[clave][contenedor].append(b["real_time"])
+    mediana = lambda muestras: {c: statistics.median(v) for c, v in muestras.items()}
+    tiempos = {k: mediana(v) for k, v in muestras_tiempo.items()}
+    bytes_por = {k: mediana(v) for k, v in muestras_bytes.items()}
+    repeticiones = max((len(v) for m in muestras_tiempo.values() for v in m.values()), default=0)
 
     print("# Benchmark results\n")
     print(f"Machine: {maquina(datos.get('context', {}))}.\n")
-    print("Ratios are this library's time divided by the peer's on the same data in the same run: "
-          "below 1.00 this library is faster. Regenerate with `tools/bench`.\n")
+    print("Ratios are this library's time divided by the peer's on the same data in the same run "
+          f"(median of {repeticiones} repetitions): below 1.00 this library is faster. The C library's "
+          "allocator runs with fixed thresholds (bench/asignacion.cpp). Regenerate with `tools/bench`.\n")
+    imprime_objetivos(tiempos, bytes_por)
+    print("## All ratios\n")
     peers = sorted({c for v in tiempos.values() for c in v if c != "arrays"})
     print("| operation | size | " + " | ".join(peers) + " |")
     print("|---|---:|" + "---:|" * len(peers))
@@ -68,5 +127,14 @@ def main(ruta):
                   " | ".join(f"{v[c]:.2f}" if c in v else "" for c in contenedores) + " |")
 
 
+def imprime_gigante(ruta):
+    print("\n## One BYTE array of 4·10^9 elements (bench/gigante.cpp)\n")
+    print("```")
+    print(open(ruta).read().rstrip())
+    print("```")
+
+
 if __name__ == "__main__":
     main(sys.argv[1])
+    if len(sys.argv) > 2:
+        imprime_gigante(sys.argv[2])

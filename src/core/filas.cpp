@@ -19,15 +19,21 @@ char *elemento(const ARRAY *array, size_t fila, size_t pos)
     return array->buffer[fila] + pos * array->size_elem;
 }
 
-// Adds `delta` (modulo 2^64, so a negative delta wraps) to the prefix sums of rows desde..hasta.
-// One loop over a local copy of the table pointer with a fixed bound, so that the compiler
-// vectorizes it: after an insert in the middle it touches every later row.
+// Adds `delta` (modulo 2^64, so a negative delta wraps) to entries desde..fin-1 of a table. One
+// plain loop that the compiler vectorizes, compiled for the widest vectors the processor has
+// (chosen once, when the library is loaded): after an insert in the middle of a large array it
+// touches thousands of rows.
+__attribute__((target_clones("avx512f", "avx2", "default"))) void
+suma_a_tabla(size_t *tabla, size_t desde, size_t fin, size_t delta)
+{
+    for (size_t i = desde; i < fin; ++i)
+        tabla[i] += delta;
+}
+
+// Adds `delta` to the prefix sums of rows desde..hasta.
 void suma_acumulados(ARRAY *array, size_t desde, size_t hasta, size_t delta)
 {
-    size_t *const acumulado = array->acumulado_filas;
-    const size_t fin = std::min(hasta + 1, size_t{array->num_filas});
-    for (size_t i = desde; i < fin; ++i)
-        acumulado[i] += delta;
+    suma_a_tabla(array->acumulado_filas, desde, std::min(hasta + 1, size_t{array->num_filas}), delta);
 }
 
 // The header is packed, so its table pointers may sit at unaligned addresses: the tables are

@@ -186,8 +186,11 @@ bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_ar
     if (real_pos >= array->num_elems || num_filas == 0 || long_max == 0) [[unlikely]]
         return false;
     // Rows of a power-of-two length (every element size but 24 bytes) divide by a shift.
-    const size_t fila = (long_max & (long_max - 1)) == 0 ? real_pos >> __builtin_ctzll(long_max)
-                                                         : real_pos / long_max;
+    size_t fila;
+    if ((long_max & (long_max - 1)) == 0) [[likely]]
+        fila = real_pos >> __builtin_ctzll(long_max);
+    else
+        fila = real_pos / long_max;
     if (fila < num_filas) [[likely]] {
         const size_t inicio = array->acumulado_filas[fila];
         if (inicio <= real_pos && real_pos - inicio < array->long_filas[fila]) [[likely]] {
@@ -237,12 +240,15 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
 // Address of the element inside its row, valid until the array next changes; NULL when the
 // element cannot be reached.
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
+// TAMANYO as for arrayprv_append.
+template <size_t TAMANYO = 0>
 inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
     if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->tipo_elem == tipo_elem &&
+        (TAMANYO == 0 || array->size_elem == TAMANYO) &&
         arrayprv_posicion_rapida(array, real_pos, &posi)) [[likely]]
-        return array->buffer[posi.fila] + posi.pos * array->size_elem;
+        return array->buffer[posi.fila] + posi.pos * (TAMANYO != 0 ? TAMANYO : size_t{array->size_elem});
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }
 

@@ -74,22 +74,23 @@ void libera_tablas(ARRAY *array)
     array->acumulado_filas = liberada(array->acumulado_filas);
 }
 
-// Elements that the block of row `fila` is made to hold when it is created or must grow. Every
-// row but the first gets a block for a full row at once: a large array then never moves a row to
-// grow it, and its rows lie next to each other in memory. The first row's block follows its
-// capacity, so a small array stays small. Capacities (max_long_filas) follow the growth rule
-// whatever the block holds.
-size_t elementos_del_bloque(const ARRAY *array, size_t fila, size_t capacidad)
+// Elements that the block of row `fila` is made to hold when it is created or must grow, in an
+// array of num_filas rows. The last row, unless it is the first, gets a block for a full row at
+// once: appending to a large array then never moves a row to grow it, and its rows lie next to
+// each other in memory. Every other row's block follows its capacity, so a small array stays
+// small and the rows that inserts split keep only what they hold. Capacities (max_long_filas)
+// follow the growth rule whatever the block holds.
+size_t elementos_del_bloque(const ARRAY *array, size_t fila, size_t num_filas, size_t capacidad)
 {
-    return fila == 0 ? capacidad : std::max(capacidad, size_t{array->long_max_fila_en_elem});
+    const bool ultima_no_primera = fila > 0 && fila + 1 == num_filas;
+    return ultima_no_primera ? std::max(capacidad, size_t{array->long_max_fila_en_elem}) : capacidad;
 }
 
-// A new row block for `fila`, its first `capacidad` slots zeroed.
-char *nueva_fila(const ARRAY *array, size_t fila, size_t capacidad)
+// A new row block of `elementos`, its first `capacidad` slots zeroed.
+char *nueva_fila(const ARRAY *array, size_t capacidad, size_t elementos)
 {
     const size_t size_elem = array->size_elem;
-    auto *bloque = static_cast<char *>(
-        zarpspy_nousar_malloc(elementos_del_bloque(array, fila, capacidad) * size_elem));
+    auto *bloque = static_cast<char *>(zarpspy_nousar_malloc(elementos * size_elem));
     std::memset(bloque, 0, capacidad * size_elem);
     return bloque;
 }
@@ -113,7 +114,8 @@ void arrayprv_crece_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
     const char *bloque = array->buffer[fila];
     if (bloque == nullptr || zarpspy_tamanyo_bloque(bloque) < (capacidad + incremento) * size_elem)
         array->buffer[fila] = static_cast<char *>(zarpspy_nousar_realloc(
-            array->buffer[fila], elementos_del_bloque(array, fila, capacidad + incremento) * size_elem));
+            array->buffer[fila],
+            elementos_del_bloque(array, fila, array->num_filas, capacidad + incremento) * size_elem));
     std::memset(elemento(array, fila, capacidad), 0, incremento * array->size_elem);
     array->max_long_filas[fila] = capacidad + incremento;
 }
@@ -132,7 +134,7 @@ void arrayprv_anyade_filas(ARRAY *array, size_t num_elems_a_poner)
     for (size_t i = primera; i < primera + numfilas; ++i) {
         const bool ultima = i == primera + numfilas - 1;
         const size_t num = ultima && resto != 0 ? resto : long_max;
-        array->buffer[i] = nueva_fila(array, i, num);
+        array->buffer[i] = nueva_fila(array, num, elementos_del_bloque(array, i, primera + numfilas, num));
         array->long_filas[i] = num;
         array->max_long_filas[i] = num;
         array->acumulado_filas[i] =
@@ -157,7 +159,8 @@ void arrayprv_inserta_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
     std::memmove(array->acumulado_filas + fila + 1, array->acumulado_filas + fila,
                  posteriores * sizeof(size_t));
     const size_t capacidad = arrayprv_incremento_fila(0, elem_a_poner, array->long_max_fila_en_elem);
-    array->buffer[fila] = nueva_fila(array, fila, capacidad);
+    array->buffer[fila] =
+        nueva_fila(array, capacidad, elementos_del_bloque(array, fila, array->num_filas + 1, capacidad));
     array->long_filas[fila] = 0;
     array->max_long_filas[fila] = capacidad;
     array->acumulado_filas[fila] =

@@ -150,7 +150,7 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
 
     static T get(const ARRAY *array, ULONG pos)
     {
-        const void *elemento = arrayprv_get(array, pos, TAG);
+        const void *elemento = arrayprv_get<sizeof(T)>(array, pos, TAG);
         return elemento != nullptr ? lee_elemento<T>(elemento) : T{};
     }
 

@@ -213,16 +213,24 @@ void *arrayprv_direccion_elemento(const ARRAY *array, const posicion_array *posi
 // ---- Elements (the bodies behind the typed append, insert, delete, get, set, ...) ----------
 
 size_t arrayprv_append_comprobado(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem);
+// True when an append may store straight into the last row's room: a live idle array of the tag
+// (and of the size TAMANYO, when given) outside checking mode.
 // Appends one element and returns the new count (0 when the array cannot be used). The common
 // case, a live idle array whose last row has room, stores the element at once. A caller that
 // knows its element's size at compile time gives it as TAMANYO (the header must agree), so the
 // copy is a plain store; 0 copies the header's size.
 template <size_t TAMANYO = 0>
+inline bool arrayprv_anyade_directo(const ARRAY *array, tipo_elem_array tipo_elem)
+{
+    return array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
+           array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem && array->num_filas > 0 &&
+           (TAMANYO == 0 || array->size_elem == TAMANYO) && !arrayprv_es_modo_comprobacion();
+}
+
+template <size_t TAMANYO = 0>
 inline size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem)
 {
-    if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
-        array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem && array->num_filas > 0 &&
-        (TAMANYO == 0 || array->size_elem == TAMANYO) && !arrayprv_es_modo_comprobacion()) [[likely]] {
+    if (arrayprv_anyade_directo<TAMANYO>(array, tipo_elem)) [[likely]] {
         const size_t size_elem = TAMANYO != 0 ? TAMANYO : size_t{array->size_elem};
         const size_t ultima = array->num_filas - 1;
         size_t *const long_filas = array->long_filas;

@@ -6,6 +6,8 @@
 #include "services/informes.h"
 #include "services/memoria.h"
 
+#include <algorithm>
+#include <cstring>
 #include <vector>
 
 namespace {
@@ -64,6 +66,34 @@ bool entrada_concatena(const ARRAY *dest, const ARRAY *org)
     ARR_EXIGE(dest->en_bucle == FALSO, "dest->en_bucle == FALSO");
     ARR_EXIGE(dest->en_bucle_lectura == FALSO, "dest->en_bucle_lectura == FALSO");
     return true;
+}
+
+// Appends `cuantos` consecutive elements, leaving what appending them one by one leaves: what fits
+// in the last row's room is copied at once, and each element that needs a new or larger row goes
+// through arrayprv_append, which grows rows by the documented rule.
+void anyade_tramo(ARRAY *dest, const char *elementos, size_t cuantos, tipo_elem_array tipo_elem)
+{
+    const size_t size_elem = dest->size_elem;
+    while (cuantos > 0) {
+        size_t hueco = 0;
+        if (arrayprv_anyade_directo(dest, tipo_elem)) {
+            const size_t ultima = dest->num_filas - 1;
+            const size_t llenos = dest->long_filas[ultima];
+            const size_t capacidad = dest->max_long_filas[ultima];
+            hueco = capacidad > llenos ? std::min(cuantos, capacidad - llenos) : 0;
+            std::memcpy(dest->buffer[ultima] + llenos * size_elem, elementos, hueco * size_elem);
+            dest->long_filas[ultima] = llenos + hueco;
+            dest->num_elems += hueco;
+        }
+        if (hueco == 0) {
+            const size_t antes = dest->num_elems;
+            if (arrayprv_append(dest, elementos, tipo_elem) <= antes)
+                return; // the array took nothing: the append has reported why
+            hueco = 1;
+        }
+        elementos += hueco * size_elem;
+        cuantos -= hueco;
+    }
 }
 
 } // namespace
@@ -146,9 +176,8 @@ void arrayprv_concatena(ARRAY *dest, const ARRAY *org)
                          __LINE__);
         break;
     default:
-        arrayprv_visita_todos(org, [&](const char *elemento) {
-            arrayprv_append(dest, elemento, org->tipo_elem);
-        });
+        for (size_t fila = 0; fila < org->num_filas; ++fila)
+            anyade_tramo(dest, org->buffer[fila], org->long_filas[fila], org->tipo_elem);
         break;
     }
 }

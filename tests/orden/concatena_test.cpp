@@ -51,6 +51,31 @@ TEST_F(Concatenacion, OrgElementsFollowDestElementsInOrderAndOrgIsUnchanged)
     arr_DestruyeDouble(&org);
 }
 
+// The rows a concatenation leaves are those that appending org's elements one by one leaves, from
+// every state of dest's last row (none, partly filled, full, still growing, after inserts).
+TEST_F(Concatenacion, RowsAreThoseOfAppendingTheElementsOneByOne)
+{
+    for (size_t en_dest : {0, 5, 11, 256, 300, 512, 1000})
+        for (size_t en_org : {1, 10, 11, 12, 255, 256, 257, 3000}) {
+            ARRAY *dest = crea_doubles(uno_a(en_dest));
+            ARRAY *una_a_una = crea_doubles(uno_a(en_dest));
+            for (ARRAY *array : {dest, una_a_una})
+                if (en_dest > 100)
+                    for (ULONG pos : {3u, 40u, 99u})
+                        arr_InsertarDouble(array, pos, -1.0);
+            ARRAY *org = arr_CreaDouble(0);
+            for (size_t i = 0; i < en_org; ++i)
+                arr_InsertarDouble(org, static_cast<ULONG>(i / 2), 1000.0 + static_cast<double>(i));
+            arr_ConcatenaDouble(dest, org);
+            for (double valor : doubles_de(org))
+                arr_AppendDouble(una_a_una, valor);
+            EXPECT_EQ(disposicion(dest), disposicion(una_a_una)) << en_dest << " + " << en_org;
+            EXPECT_EQ(bits_de(doubles_de(dest)), bits_de(doubles_de(una_a_una)));
+            for (ARRAY *array : {dest, una_a_una, org})
+                arr_DestruyeDouble(&array);
+        }
+}
+
 TEST_F(Concatenacion, StringsAreCopiedIntoDest)
 {
     ARRAY *dest = crea_cadenas({"a"});

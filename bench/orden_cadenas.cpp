@@ -81,41 +81,33 @@ template <typename Ordena> void registra_uno(const std::string &nombre, Ordena o
         ->Arg(1000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMicrosecond);
 }
 
+// Registers this library and the three peers under "operacion/...": the library sorts with
+// `comparador` (NULL for its default order), the peers with the same order in their own form.
+template <typename Menor>
+void registra_variante(const std::string &operacion, int (*comparador_arrays)(const char *, const char *),
+                       int (*compara_c)(const void *, const void *), Menor menor)
+{
+    registra_uno(operacion + "/arrays", [comparador_arrays](benchmark::State &e) {
+        mide<Cadenas>(e, [comparador_arrays](Cadenas &c) { arr_QSortCADENA(c.a, comparador_arrays); });
+    });
+    registra_uno(operacion + "/qsort", [compara_c](benchmark::State &e) {
+        mide<Punteros>(e, [compara_c](Punteros &c) {
+            std::qsort(c.p.data(), c.p.size(), sizeof(char *), compara_c);
+        });
+    });
+    registra_uno(operacion + "/std::sort", [menor](benchmark::State &e) {
+        mide<Punteros>(e, [menor](Punteros &c) { std::sort(c.p.begin(), c.p.end(), menor); });
+    });
+    registra_uno(operacion + "/pdqsort", [menor](benchmark::State &e) {
+        mide<Punteros>(e, [menor](Punteros &c) { boost::sort::pdqsort(c.p.begin(), c.p.end(), menor); });
+    });
+}
+
 const bool registrado = [] {
-    const auto menor_defecto = [](const char *a, const char *b) { return std::strcmp(a, b) < 0; };
-    const auto menor_usuario = [](const char *a, const char *b) { return comparador(a, b) < 0; };
-    registra_uno("sort_strings/arrays", [](benchmark::State &e) {
-        mide<Cadenas>(e, [](Cadenas &c) { arr_QSortCADENA(c.a, nullptr); });
-    });
-    registra_uno("sort_strings/qsort", [](benchmark::State &e) {
-        mide<Punteros>(e, [](Punteros &c) {
-            std::qsort(c.p.data(), c.p.size(), sizeof(char *), compara_qsort_por_defecto);
-        });
-    });
-    registra_uno("sort_strings/std::sort", [menor_defecto](benchmark::State &e) {
-        mide<Punteros>(e, [menor_defecto](Punteros &c) { std::sort(c.p.begin(), c.p.end(), menor_defecto); });
-    });
-    registra_uno("sort_strings/pdqsort", [menor_defecto](benchmark::State &e) {
-        mide<Punteros>(e, [menor_defecto](Punteros &c) {
-            boost::sort::pdqsort(c.p.begin(), c.p.end(), menor_defecto);
-        });
-    });
-    registra_uno("sort_strings_user_comparator/arrays", [](benchmark::State &e) {
-        mide<Cadenas>(e, [](Cadenas &c) { arr_QSortCADENA(c.a, comparador); });
-    });
-    registra_uno("sort_strings_user_comparator/qsort", [](benchmark::State &e) {
-        mide<Punteros>(e, [](Punteros &c) {
-            std::qsort(c.p.data(), c.p.size(), sizeof(char *), compara_qsort);
-        });
-    });
-    registra_uno("sort_strings_user_comparator/std::sort", [menor_usuario](benchmark::State &e) {
-        mide<Punteros>(e, [menor_usuario](Punteros &c) { std::sort(c.p.begin(), c.p.end(), menor_usuario); });
-    });
-    registra_uno("sort_strings_user_comparator/pdqsort", [menor_usuario](benchmark::State &e) {
-        mide<Punteros>(e, [menor_usuario](Punteros &c) {
-            boost::sort::pdqsort(c.p.begin(), c.p.end(), menor_usuario);
-        });
-    });
+    registra_variante("sort_strings", nullptr, compara_qsort_por_defecto,
+                      [](const char *a, const char *b) { return std::strcmp(a, b) < 0; });
+    registra_variante("sort_strings_user_comparator", comparador, compara_qsort,
+                      [](const char *a, const char *b) { return comparador(a, b) < 0; });
     return true;
 }();
 

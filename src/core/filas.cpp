@@ -19,15 +19,37 @@ char *elemento(const ARRAY *array, size_t fila, size_t pos)
     return array->buffer[fila] + pos * array->size_elem;
 }
 
-// Adds `delta` (modulo 2^64, so a negative delta wraps) to entries desde..fin-1 of a table. One
-// plain loop that the compiler vectorizes, compiled for the widest vectors the processor has
-// (chosen once, when the library is loaded): after an insert in the middle of a large array it
-// touches thousands of rows.
-__attribute__((target_clones("avx512f", "avx2", "default"))) void
-suma_a_tabla(size_t *tabla, size_t desde, size_t fin, size_t delta)
+// Adds `delta` (modulo 2^64, so a negative delta wraps) to entries desde..fin-1 of a table: one
+// plain loop that the compiler vectorizes, compiled below for the baseline and for wider vectors.
+// After an insert in the middle of a large array it touches thousands of rows.
+[[gnu::always_inline]] inline void suma_en_bucle(size_t *tabla, size_t desde, size_t fin, size_t delta)
 {
     for (size_t i = desde; i < fin; ++i)
         tabla[i] += delta;
+}
+
+using funcion_suma = void (*)(size_t *tabla, size_t desde, size_t fin, size_t delta);
+
+void suma_base(size_t *tabla, size_t desde, size_t fin, size_t delta)
+{
+    suma_en_bucle(tabla, desde, fin, delta);
+}
+[[gnu::target("avx2")]] void suma_avx2(size_t *tabla, size_t desde, size_t fin, size_t delta)
+{
+    suma_en_bucle(tabla, desde, fin, delta);
+}
+[[gnu::target("avx512f")]] void suma_avx512(size_t *tabla, size_t desde, size_t fin, size_t delta)
+{
+    suma_en_bucle(tabla, desde, fin, delta);
+}
+
+// The widest form the processor runs, chosen at the first call.
+void suma_a_tabla(size_t *tabla, size_t desde, size_t fin, size_t delta)
+{
+    static const funcion_suma suma = __builtin_cpu_supports("avx512f") ? suma_avx512
+                                     : __builtin_cpu_supports("avx2") ? suma_avx2
+                                                                       : suma_base;
+    suma(tabla, desde, fin, delta);
 }
 
 // Adds `delta` to the prefix sums of rows desde..hasta.

@@ -168,9 +168,9 @@ void arrayprv_borra_en_fila(ARRAY *array, const posicion_array *posi);
 
 // ---- Positions (the one place that maps an index to a row and offset) ----------------------
 
-// The row of a valid index when rows are of uneven length: from the row the average row length
-// predicts, jumps that cannot overshoot (a row holds at most long_max_fila_en_elem elements),
-// then bisection of what is left. The prefix sums confirm the answer; false leaves the index to
+// The row of a valid index when rows are of uneven length: the row the average row length
+// predicts, corrected once by its prefix sum's error, then a window of prefix sums around it, and
+// bisection when the window misses. The prefix sums confirm the answer; false leaves the index to
 // arrayprv_posicion.
 bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_array *posi);
 
@@ -212,26 +212,33 @@ void *arrayprv_direccion_elemento(const ARRAY *array, const posicion_array *posi
 
 // ---- Elements (the bodies behind the typed append, insert, delete, get, set, ...) ----------
 
-size_t arrayprv_append_comprobado(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem);
+// The element size the fast paths below copy: TAMANYO, when a caller that knows its element's
+// size at compile time gives it (the copy is then a plain store; they run only when the header
+// agrees), else the header's size.
+template <size_t TAMANYO> inline size_t arrayprv_tamanyo_rapido(const ARRAY *array)
+{
+    return TAMANYO != 0 ? TAMANYO : size_t{array->size_elem};
+}
+
 // True when an append may store straight into the last row's room: a live idle array of the tag
 // (and of the size TAMANYO, when given) outside checking mode.
-// Appends one element and returns the new count (0 when the array cannot be used). The common
-// case, a live idle array whose last row has room, stores the element at once. A caller that
-// knows its element's size at compile time gives it as TAMANYO (the header must agree), so the
-// copy is a plain store; 0 copies the header's size.
 template <size_t TAMANYO = 0>
 inline bool arrayprv_anyade_directo(const ARRAY *array, tipo_elem_array tipo_elem)
 {
     return array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
            array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem && array->num_filas > 0 &&
-           (TAMANYO == 0 || array->size_elem == TAMANYO) && !arrayprv_es_modo_comprobacion();
+           array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array) &&
+           !arrayprv_es_modo_comprobacion();
 }
 
+size_t arrayprv_append_comprobado(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem);
+// Appends one element and returns the new count (0 when the array cannot be used). The common
+// case, a live idle array whose last row has room, stores the element at once.
 template <size_t TAMANYO = 0>
 inline size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem)
 {
     if (arrayprv_anyade_directo<TAMANYO>(array, tipo_elem)) [[likely]] {
-        const size_t size_elem = TAMANYO != 0 ? TAMANYO : size_t{array->size_elem};
+        const size_t size_elem = arrayprv_tamanyo_rapido<TAMANYO>(array);
         const size_t ultima = array->num_filas - 1;
         size_t *const long_filas = array->long_filas;
         if (long_filas[ultima] < array->max_long_filas[ultima]) [[likely]] {
@@ -248,30 +255,30 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
 // Address of the element inside its row, valid until the array next changes; NULL when the
 // element cannot be reached.
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
-// TAMANYO as for arrayprv_append.
+// TAMANYO as for arrayprv_tamanyo_rapido.
 template <size_t TAMANYO = 0>
 inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
     if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->tipo_elem == tipo_elem &&
-        (TAMANYO == 0 || array->size_elem == TAMANYO) &&
+        array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array) &&
         arrayprv_posicion_rapida(array, real_pos, &posi)) [[likely]]
-        return array->buffer[posi.fila] + posi.pos * (TAMANYO != 0 ? TAMANYO : size_t{array->size_elem});
+        return array->buffer[posi.fila] + posi.pos * arrayprv_tamanyo_rapido<TAMANYO>(array);
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }
 
 void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
                              tipo_elem_array tipo_elem);
-// Overwrites one element; TAMANYO as for arrayprv_append.
+// Overwrites one element; TAMANYO as for arrayprv_tamanyo_rapido.
 template <size_t TAMANYO = 0>
 inline void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
     if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
         array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem &&
-        (TAMANYO == 0 || array->size_elem == TAMANYO) &&
+        array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array) &&
         arrayprv_posicion_rapida(array, real_pos, &posi)) [[likely]] {
-        const size_t size_elem = TAMANYO != 0 ? TAMANYO : size_t{array->size_elem};
+        const size_t size_elem = arrayprv_tamanyo_rapido<TAMANYO>(array);
         std::memcpy(array->buffer[posi.fila] + posi.pos * size_elem, elemento, size_elem);
         return;
     }

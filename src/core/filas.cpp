@@ -138,7 +138,7 @@ void arrayprv_crece_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
         array->buffer[fila] = static_cast<char *>(zarpspy_nousar_realloc(
             array->buffer[fila],
             elementos_del_bloque(array, fila, array->num_filas, capacidad + incremento) * size_elem));
-    std::memset(elemento(array, fila, capacidad), 0, incremento * array->size_elem);
+    std::memset(elemento(array, fila, capacidad), 0, incremento * size_elem);
     array->max_long_filas[fila] = capacidad + incremento;
 }
 

@@ -1,9 +1,10 @@
 // The quicksort over positions with an explicit stack of ranges, written once for every way of
 // comparing: the pivot is a copy, the scans stop on anything that is not exactly
 // comparac_PRIMERO_MENOR, the smaller part is sorted first and the larger one stacked, so the
-// stack stays logarithmic. The scans reach consecutive elements through the current row (a
-// cursor) instead of a fresh lookup per element; the comparisons, their order and the swaps are
-// the same whatever the comparison.
+// stack stays logarithmic. The scans run through the current row on a plain pointer (a cursor)
+// instead of a fresh lookup per element; the comparisons, their order and the swaps are the same
+// whatever the comparison. A comparison that offers ordena_contiguos (a default order, which no
+// caller observes) sorts each range lying inside one row there, with the same partitions.
 //
 // A comparison (Comparacion) provides:
 //   int orden(const void *a, const void *b)   three-way order of two element addresses, either
@@ -19,6 +20,7 @@
 #include "core/pilaqsor.h"
 #include "services/informes.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
@@ -52,6 +54,9 @@ public:
 
     LONG indice() const { return indice_; }
 
+    // Elements from the cursor to the end of its row (0 when it names no element).
+    size_t quedan_en_fila() const { return elemento_ != nullptr ? long_fila_ - pos_ : 0; }
+
     char *elemento() const
     {
         if (elemento_ != nullptr) [[likely]]
@@ -81,7 +86,57 @@ public:
         situa(indice_ - 1);
     }
 
+    // `while (sigue(elemento())) avanza();`, running through each row on a plain pointer.
+    template <typename Sigue> void avanza_mientras(Sigue &&sigue)
+    {
+        while (elemento_ != nullptr) {
+            const size_t quedan = long_fila_ - pos_;
+            char *elemento = elemento_;
+            for (size_t paso = 0;;) {
+                if (!sigue(elemento)) {
+                    salta(static_cast<LONG>(paso), elemento);
+                    return;
+                }
+                if (++paso == quedan)
+                    break;
+                elemento += size_elem_;
+            }
+            situa(indice_ + static_cast<LONG>(quedan));
+        }
+        while (sigue(elemento()))
+            avanza();
+    }
+
+    // `while (sigue(elemento())) retrocede();`, running through each row on a plain pointer.
+    template <typename Sigue> void retrocede_mientras(Sigue &&sigue)
+    {
+        while (elemento_ != nullptr) {
+            const size_t quedan = pos_ + 1;
+            char *elemento = elemento_;
+            for (size_t paso = 0;;) {
+                if (!sigue(elemento)) {
+                    salta(-static_cast<LONG>(paso), elemento);
+                    return;
+                }
+                if (++paso == quedan)
+                    break;
+                elemento -= size_elem_;
+            }
+            situa(indice_ - static_cast<LONG>(quedan));
+        }
+        while (sigue(elemento()))
+            retrocede();
+    }
+
 private:
+    // Moves `paso` elements within the row, to the element at `elemento`.
+    void salta(LONG paso, char *elemento)
+    {
+        indice_ += paso;
+        pos_ += static_cast<size_t>(paso);
+        elemento_ = elemento;
+    }
+
     void situa(LONG indice)
     {
         indice_ = indice;
@@ -103,6 +158,45 @@ private:
     char *elemento_ = nullptr;
 };
 
+// The partitions of Quicksort on n consecutive values at `a`, by a total order under which none of
+// them is unordered (no NaN): the same pivots, scans and swaps on plain pointers, hence the same
+// result. Under such an order the scans never leave the range, so they need no bounds.
+template <typename T, int (*ORDEN)(T, T)> void arrayprv_quicksort_contiguo(T *a, ptrdiff_t n)
+{
+    ptrdiff_t izquierda = 0;
+    ptrdiff_t derecha = n - 1;
+    while (izquierda < derecha) {
+        const T pivote = a[izquierda + (derecha - izquierda) / 2];
+        ptrdiff_t i = izquierda;
+        ptrdiff_t j = derecha;
+        do {
+            while (ORDEN(a[i], pivote) == comparac_PRIMERO_MENOR)
+                ++i;
+            while (ORDEN(pivote, a[j]) == comparac_PRIMERO_MENOR)
+                --j;
+            if (i <= j) {
+                if (i < j && ORDEN(a[i], a[j]) != comparac_IGUALES) {
+                    const T valor = a[i];
+                    a[i] = a[j];
+                    a[j] = valor;
+                }
+                ++i;
+                --j;
+            }
+        } while (i <= j);
+        // Sort the smaller part by recursion and go on with the larger one.
+        if (j - izquierda < derecha - i) {
+            if (izquierda < j)
+                arrayprv_quicksort_contiguo<T, ORDEN>(a + izquierda, j - izquierda + 1);
+            izquierda = i;
+        } else {
+            if (i < derecha)
+                arrayprv_quicksort_contiguo<T, ORDEN>(a + i, derecha - i + 1);
+            derecha = j;
+        }
+    }
+}
+
 template <typename Comparacion> class Quicksort {
 public:
     Quicksort(ARRAY *array, Comparacion &comparacion) : array_(array), comparacion_(comparacion) {}
@@ -120,6 +214,8 @@ public:
             ARR_EXIGE(izquierda >= 0, "izquierda >= 0");
             ARR_EXIGE(derecha >= izquierda, "derecha >= izquierda");
             while (izquierda < derecha) {
+                if (ordena_en_una_fila(izquierda, derecha))
+                    break;
                 LONG i;
                 LONG j;
                 particiona(izquierda, derecha, i, j);
@@ -138,6 +234,18 @@ public:
     }
 
 private:
+    // A range inside one row is sorted on plain pointers when the comparison can do that.
+    bool ordena_en_una_fila(LONG izquierda, LONG derecha)
+    {
+        if constexpr (requires(char *elemento, size_t n) { comparacion_.ordena_contiguos(elemento, n); }) {
+            const size_t n = static_cast<size_t>(derecha - izquierda) + 1;
+            const CursorOrden ci(array_, izquierda);
+            return ci.quedan_en_fila() >= n && comparacion_.ordena_contiguos(ci.elemento(), n);
+        } else {
+            return false;
+        }
+    }
+
     // Partitions izquierda..derecha around the element in the middle; returns the final i and j.
     void particiona(LONG izquierda, LONG derecha, LONG &i, LONG &j)
     {
@@ -152,11 +260,13 @@ private:
         // Invariant: elements left of i are not greater than the pivot, those right of j not less.
         do {
             ARR_EXIGE(ci.indice() >= 0, "i >= 0");
-            while (comparacion_.orden(ci.elemento(), pivote) == comparac_PRIMERO_MENOR)
-                ci.avanza();
+            ci.avanza_mientras([&](const char *elemento) {
+                return comparacion_.orden(elemento, pivote) == comparac_PRIMERO_MENOR;
+            });
             ARR_EXIGE(cj.indice() >= 0, "j >= 0");
-            while (comparacion_.orden(pivote, cj.elemento()) == comparac_PRIMERO_MENOR)
-                cj.retrocede();
+            cj.retrocede_mientras([&](const char *elemento) {
+                return comparacion_.orden(pivote, elemento) == comparac_PRIMERO_MENOR;
+            });
             if (ci.indice() <= cj.indice()) {
                 if (ci.indice() < cj.indice() &&
                     comparacion_.orden(ci.elemento(), cj.elemento()) != comparac_IGUALES) {
@@ -200,8 +310,15 @@ template <typename Comparacion> void arrayprv_quicksort(ARRAY *array, Comparacio
 // A default order, inlined: the values are read at their type and compared by ORDEN directly.
 // Identical strings (the same pointer) are equal without a call, as through the sort table; for
 // numbers the shortcut is left out, every default order calls identical values equal.
+template <auto ORDEN> inline constexpr bool es_orden_bool = false;
+template <> inline constexpr bool es_orden_bool<arrayprv_orden_bool> = true;
+
 template <typename T, int (*ORDEN)(T, T)> class ComparacionValores {
 public:
+    // Numbers other than BOOL (whose order is one-sided) are totally ordered, but for NaN.
+    static constexpr bool orden_total = std::is_arithmetic_v<T> && !es_orden_bool<ORDEN>;
+
+
     int orden(const void *a, const void *b) const
     {
         if (a == nullptr || b == nullptr) [[unlikely]]
@@ -222,6 +339,23 @@ public:
         std::memcpy(a, b, sizeof(T));
         std::memcpy(b, &valor_a, sizeof(T));
     }
+    // Sorts n consecutive elements at `inicio` through arrayprv_quicksort_contiguo when the order
+    // is total on them; false, touching nothing, otherwise.
+    bool ordena_contiguos(char *inicio, size_t n) const
+    {
+        if constexpr (orden_total) {
+            T *valores = reinterpret_cast<T *>(inicio);
+            if constexpr (std::is_floating_point_v<T>) {
+                for (size_t k = 0; k < n; ++k)
+                    if (valores[k] != valores[k])
+                        return false;
+            }
+            arrayprv_quicksort_contiguo<T, ORDEN>(valores, static_cast<ptrdiff_t>(n));
+            return true;
+        } else {
+            return false;
+        }
+    }
 
 private:
     static T lee(const void *elemento)
@@ -233,9 +367,6 @@ private:
 
     T pivote_{};
 };
-
-template <auto ORDEN> inline constexpr bool es_orden_bool = false;
-template <> inline constexpr bool es_orden_bool<arrayprv_orden_bool> = true;
 
 // With a total order on numbers (not BOOL's one-sided one), an array already in order (no NaN)
 // is one the quicksort never changes, and a strictly decreasing one has a single sorted result:
@@ -282,8 +413,7 @@ template <typename T, int (*ORDEN)(T, T)> void arrayprv_qsort_valores(ARRAY *arr
     if (!arrayprv_qsort_empieza(array, hay_array, tipo_elem))
         return;
     ComparacionValores<T, ORDEN> comparacion;
-    constexpr bool orden_total = std::is_arithmetic_v<T> && !es_orden_bool<ORDEN>;
-    if (!orden_total || !arrayprv_ordena_si_monotono<T, ORDEN>(array, comparacion))
+    if (!comparacion.orden_total || !arrayprv_ordena_si_monotono<T, ORDEN>(array, comparacion))
         arrayprv_quicksort(array, comparacion);
     arrayprv_qsort_termina(array);
 }

@@ -1,5 +1,6 @@
 // The sort with a type's default order (no comparator given) runs a quicksort specialised for the
-// type, and finishes ordered or strictly decreasing input in one walk. None of it may show: each
+// type, sorts ranges inside one row on plain pointers and finishes ordered or strictly decreasing
+// input in one walk. None of it may show: each
 // test sorts the same elements once that way and once through the comparator table with the same
 // default order, and asks for the same bytes in the same places, the same reports and rows.
 #include "soporte/prueba_arrays.h"
@@ -85,6 +86,18 @@ TEST_F(QsortPorDefecto, DoublesInUnevenRowsEndAsThroughTheTable)
 {
     compara_con_la_tabla<elem_DOUBLE_NO_USAR>(doubles_dificiles(6000, 4), arrayprv_orden_double,
                                               ordena_doubles, 2000);
+}
+
+// Without NaNs, every range of the quicksort that lies in one row is sorted there on plain
+// pointers; signed zeros and repeats must still land where the table sort puts them.
+TEST_F(QsortPorDefecto, DoublesWithoutNaNsSortedInsideRowsEndAsThroughTheTable)
+{
+    for (unsigned semilla : {5u, 6u, 7u}) {
+        auto v = doubles_dificiles(5000, semilla);
+        std::replace_if(v.begin(), v.end(), [](double x) { return std::isnan(x); }, -0.0);
+        compara_con_la_tabla<elem_DOUBLE_NO_USAR>(v, arrayprv_orden_double, ordena_doubles);
+        compara_con_la_tabla<elem_DOUBLE_NO_USAR>(v, arrayprv_orden_double, ordena_doubles, 1500);
+    }
 }
 
 TEST_F(QsortPorDefecto, OrderedDoublesWithMixedSignedZerosKeepTheirBytes)

@@ -8,7 +8,8 @@
 // The tables are all NULL exactly when num_filas is 0. Slots past a row's count are zero, except
 // those that a shrink cut off, which keep their old contents. Elements are moved as raw bytes
 // of size_elem; the engine switches on tipo_elem only where types differ (sizes, comparators,
-// owned strings).
+// owned strings). Beside the record, in the same slot, the engine keeps a guide from indices to
+// rows for uneven layouts (GuiaFilas).
 //
 // Every public operation checks its preconditions and reports a broken one by its exact text.
 // After a report it carries on, except that a NULL handle, a wrong validity mark, a wrong tag or
@@ -54,6 +55,29 @@ struct ARRAY {
     ULONG num_bits; // bit arrays only
 };
 #pragma pack(pop)
+
+// The guide from indices to rows (core/guia.h) that the engine keeps beside each header, outside
+// the record: entry e names the row that held index e << desplazamiento when it was last built.
+struct GuiaFilas {
+    uint32_t *filas;         // one row per entry; NULL until first built
+    size_t num_entradas;     // entries in use: they cover the indices below num_entradas << desplazamiento
+    size_t capacidad;        // entries allocated
+    size_t cambios;          // inserts and deletes since the guide was last built
+    size_t filas_al_construir; // num_filas when it was last built
+    double inversa_elems;      // 1 / num_elems when it was last built
+    unsigned desplazamiento; // log2 of the indices each entry spans
+};
+
+// Every header slot: the record first, then what the engine keeps beside it.
+struct CabeceraArray {
+    ARRAY array;
+    GuiaFilas guia;
+};
+
+inline const GuiaFilas &arrayprv_guia(const ARRAY *array)
+{
+    return reinterpret_cast<const CabeceraArray *>(array)->guia;
+}
 
 // One element: its row and its offset in the row. Valid while fila < num_filas and
 // pos < long_filas[fila].
@@ -168,14 +192,31 @@ void arrayprv_borra_en_fila(ARRAY *array, const posicion_array *posi);
 
 // ---- Positions (the one place that maps an index to a row and offset) ----------------------
 
-// The row of a valid index when rows are of uneven length: the row the average row length
-// predicts, corrected once by its prefix sum's error, then a window of prefix sums around it, and
+// The row of a valid index when rows are of uneven length: from the guide's row when there is a
+// guide (that row, the next, then a window of prefix sums around it), else from the row the
+// average row length predicts, corrected once by its prefix sum's error, then a window around it;
 // bisection when the window misses. The prefix sums confirm the answer; false leaves the index to
 // arrayprv_posicion.
 bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_array *posi);
 
-// Finds the row of a valid index without the documented search when it can: directly when every
-// row before it is full, else through arrayprv_posicion_irregular. The prefix sums confirm every
+// The guide's row for `real_pos`: the row its entry names, moved by the rows added (or removed)
+// since the guide was built, taken as spread evenly over the indices. Below num_filas; false when
+// the guide has no entry for the index.
+inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos, size_t num_filas, size_t &fila)
+{
+    const size_t entrada = real_pos >> guia.desplazamiento;
+    if (entrada >= guia.num_entradas)
+        return false;
+    const double filas_nuevas =
+        static_cast<double>(num_filas) - static_cast<double>(guia.filas_al_construir);
+    const double guiada = guia.filas[entrada] + filas_nuevas * real_pos * guia.inversa_elems;
+    fila = guiada <= 0 ? 0 : guiada >= static_cast<double>(num_filas) ? num_filas - 1 : static_cast<size_t>(guiada);
+    return true;
+}
+
+// Finds the row of a valid index without the documented search when it can: first in the row the
+// guide names when there is a guide, else directly when every row before it is full; failing
+// that, through arrayprv_posicion_irregular. The prefix sums confirm every
 // answer; false (without a report) leaves the index, and any inconsistent header, to
 // arrayprv_posicion.
 [[gnu::always_inline]] inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos,
@@ -185,12 +226,20 @@ bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_ar
     const size_t long_max = array->long_max_fila_en_elem;
     if (real_pos >= array->num_elems || num_filas == 0 || long_max == 0) [[unlikely]]
         return false;
-    // Rows of a power-of-two length (every element size but 24 bytes) divide by a shift.
+    const GuiaFilas &guia = arrayprv_guia(array);
     size_t fila;
-    if ((long_max & (long_max - 1)) == 0) [[likely]]
-        fila = real_pos >> __builtin_ctzll(long_max);
-    else
-        fila = real_pos / long_max;
+    if (arrayprv_fila_guiada(guia, real_pos, num_filas, fila)) {
+        // Entries span less than a row: the next row holds the index when it starts at or before
+        // it (chosen without a branch).
+        const size_t siguiente = fila + 1 < num_filas ? fila + 1 : fila;
+        fila = array->acumulado_filas[siguiente] <= real_pos ? siguiente : fila;
+    } else {
+        // Rows of a power-of-two length (every element size but 24 bytes) divide by a shift.
+        if ((long_max & (long_max - 1)) == 0) [[likely]]
+            fila = real_pos >> __builtin_ctzll(long_max);
+        else
+            fila = real_pos / long_max;
+    }
     if (fila < num_filas) [[likely]] {
         const size_t inicio = array->acumulado_filas[fila];
         if (inicio <= real_pos && real_pos - inicio < array->long_filas[fila]) [[likely]] {

@@ -1,6 +1,7 @@
 // The array header: element sizes per tag, creation, destruction, the element count and the
 // entry check that every operation runs first.
 #include "core/arrayprv.h"
+#include "core/guia.h"
 
 #include "services/cadenas.h"
 #include "services/informes.h"
@@ -82,7 +83,7 @@ bool arrayprv_entrada_tipo(const ARRAY *array, const TextosEntrada &textos, bool
 
 ARRAY *arrayprv_crea(ULONG tamanyo_inicial, tipo_elem_array tipo, ULONG long_fila_en_bytes)
 {
-    ARRAY *array = static_cast<ARRAY *>(zarpspy_reserva_cabecera(sizeof(ARRAY)));
+    ARRAY *array = arrayprv_reserva_cabecera();
     ARR_EXIGE(tipo != elem_PUNTERO_NO_USAR, "tipo_elemento != elem_PUNTERO_NO_USAR");
     array->tipo_elem = tipo;
     array->long_max_fila_en_bytes = long_fila_en_bytes;
@@ -122,6 +123,7 @@ void arrayprv_libera_filas(ARRAY *array)
     array->long_filas = tabla_liberada(array->long_filas);
     array->num_filas = 0;
     array->num_elems = 0;
+    arrayprv_guia_olvida(array);
 }
 
 void arrayprv_destruye(ARRAY **array)

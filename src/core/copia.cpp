@@ -1,6 +1,7 @@
 // Whole-array operations: a copy that keeps the source's row layout, concatenation, and
 // reversal in place or into a new array.
 #include "core/comparadores.h"
+#include "core/guia.h"
 
 #include "services/cadenas.h"
 #include "services/informes.h"
@@ -110,7 +111,7 @@ ARRAY *arrayprv_copia(const ARRAY *array, funcion_copia copia)
     if (array->size_elem != sizeof(void *)) // only pointer elements can be copied through it
         copia = nullptr;
 
-    ARRAY *nuevo = static_cast<ARRAY *>(zarpspy_reserva_cabecera(sizeof(ARRAY)));
+    ARRAY *nuevo = arrayprv_reserva_cabecera();
     nuevo->tipo_elem = array->tipo_elem;
     nuevo->long_max_fila_en_bytes = 0;
     nuevo->size_elem = array->size_elem;

@@ -1,6 +1,7 @@
 // The type-independent bodies of append, insert, delete, get, set, initialise, grow and shrink.
 // Elements cross as raw bytes of size_elem; the families pass their tag.
 #include "core/arrayprv.h"
+#include "core/guia.h"
 
 #include "services/informes.h"
 #include "services/memoria.h"
@@ -108,6 +109,7 @@ void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento, tipo_e
         haz_sitio(array, destino);
     }
     pon_en(array, destino, elemento);
+    arrayprv_guia_tras_cambio(array);
 }
 
 void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
@@ -119,6 +121,7 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
         return;
     arrayprv_borra_en_fila(array, &posi);
     --array->num_elems;
+    arrayprv_guia_tras_cambio(array);
 }
 
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)

@@ -2,6 +2,7 @@
 // elements between rows, and inserting or removing one element inside its row. Every operation
 // that changes a row's count fixes the prefix sums of the later rows at once.
 #include "core/arrayprv.h"
+#include "core/guia.h"
 
 #include "services/informes.h"
 #include "services/memoria.h"
@@ -287,6 +288,7 @@ void arrayprv_compacta(ARRAY *array)
         }
     }
     arrayprv_quita_filas_vacias(array);
+    arrayprv_guia_olvida(array);
 }
 
 void arrayprv_mueve_elementos(ARRAY *array, size_t fila_dest, size_t pos_dest, size_t fila_org,

@@ -1,6 +1,7 @@
 // Creation and ownership of pointer and structure arrays: the own creation path of tag
 // elem_PUNTERO_NO_USAR, and the destruction, shrinking and deletion that release structures
 // through the caller's `libera`.
+#include "core/guia.h"
 #include "families/a_punter.h"
 
 #include "services/informes.h"
@@ -40,7 +41,7 @@ void punteros_destruye_estructuras(ARRAY **array, void (*libera)(void **elemento
 
 extern "C" ARRAY *arr_CreaPunteroConTipoEx(ULONG n, ULONG long_fila_en_bytes) noexcept
 {
-    ARRAY *array = static_cast<ARRAY *>(zarpspy_reserva_cabecera(sizeof(ARRAY)));
+    ARRAY *array = arrayprv_reserva_cabecera();
     array->tipo_elem = elem_PUNTERO_NO_USAR;
     array->long_max_fila_en_bytes = long_fila_en_bytes;
     array->size_elem = sizeof(void *);

@@ -84,3 +84,23 @@ double double_en(const ARRAY *array, size_t fila, size_t pos)
     std::memcpy(&valor, array->buffer[fila] + pos * sizeof valor, sizeof valor);
     return valor;
 }
+
+std::tuple<size_t, size_t> fila_y_pos(const posicion_array &posi) { return {posi.fila, posi.pos}; }
+
+std::tuple<size_t, size_t> posicion_contada(const std::vector<size_t> &longitudes, size_t indice)
+{
+    size_t fila = 0;
+    while (indice >= longitudes[fila])
+        indice -= longitudes[fila++];
+    return {fila, indice};
+}
+
+void comprueba_todas_las_posiciones(const ARRAY *array)
+{
+    const std::vector<size_t> cuentas = longitudes(array);
+    for (ULONG indice = 0; indice < array->num_elems; ++indice) {
+        posicion_array posi{};
+        ASSERT_TRUE(arrayprv_posicion(array, indice, &posi)) << "index " << indice;
+        ASSERT_EQ(fila_y_pos(posi), posicion_contada(cuentas, indice)) << "index " << indice;
+    }
+}

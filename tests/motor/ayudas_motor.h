@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <tuple>
 #include <vector>
 
 // A Double array whose rows hold the given counts, each row full to its capacity (the layout
@@ -33,6 +34,15 @@ bool sin_filas(const ARRAY *array);
 std::vector<size_t> longitudes(const ARRAY *array);
 std::vector<size_t> capacidades(const ARRAY *array);
 std::vector<size_t> acumulados(const ARRAY *array);
+
+// Comparable form of a position.
+std::tuple<size_t, size_t> fila_y_pos(const posicion_array &posi);
+
+// The row and offset of an index counted over the row lengths alone, without the engine.
+std::tuple<size_t, size_t> posicion_contada(const std::vector<size_t> &longitudes, size_t indice);
+
+// Maps every index of the array through the engine and compares with posicion_contada.
+void comprueba_todas_las_posiciones(const ARRAY *array);
 
 // The element at (fila, pos) read straight from its row block, even past the row's count.
 double double_en(const ARRAY *array, size_t fila, size_t pos);

@@ -13,29 +13,6 @@
 
 namespace {
 
-// Comparable form of a position.
-std::tuple<size_t, size_t> fila_y_pos(const posicion_array &posi) { return {posi.fila, posi.pos}; }
-
-// The position of an index counted over the row lengths alone, without the engine.
-std::tuple<size_t, size_t> posicion_contada(const std::vector<size_t> &longitudes, size_t indice)
-{
-    size_t fila = 0;
-    while (indice >= longitudes[fila])
-        indice -= longitudes[fila++];
-    return {fila, indice};
-}
-
-// Maps every index of the array and compares with the positions counted over its row lengths.
-void comprueba_todas_las_posiciones(const ARRAY *array)
-{
-    const std::vector<size_t> cuentas = longitudes(array);
-    for (ULONG indice = 0; indice < array->num_elems; ++indice) {
-        posicion_array posi{};
-        ASSERT_TRUE(arrayprv_posicion(array, indice, &posi)) << "index " << indice;
-        ASSERT_EQ(fila_y_pos(posi), posicion_contada(cuentas, indice)) << "index " << indice;
-    }
-}
-
 using Posicion = PruebaArrays;
 
 TEST_F(Posicion, IndicesMapAcrossRowsOf256And256And44)

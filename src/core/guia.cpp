@@ -1,0 +1,88 @@
+// The guide from indices to rows: its slot beside the header, its rebuilds and its release.
+#include "core/guia.h"
+
+#include "services/memoria.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace {
+
+// Below this many rows the prediction from the average row length is as quick as a guide.
+constexpr size_t FILAS_MINIMAS = 64;
+
+// Inserts and deletes between rebuilds, counted in the indices one entry spans: each change moves
+// row boundaries by one index,
+// so the rows named stay within a few rows of the truth, which the lookup's window covers.
+constexpr size_t TRAMOS_ENTRE_RECONSTRUCCIONES = 2;
+
+// Rows added or removed between rebuilds: the lookup spreads them evenly over the indices, which
+// puts the guide's row within a few rows of the truth while they are few.
+constexpr size_t FILAS_NUEVAS_MAXIMAS = 64;
+
+GuiaFilas &guia_de(ARRAY *array) { return reinterpret_cast<CabeceraArray *>(array)->guia; }
+
+void reconstruye(ARRAY *array, GuiaFilas &guia)
+{
+    const size_t num_filas = array->num_filas;
+    const size_t num_elems = array->num_elems;
+    guia.cambios = 0;
+    if (num_filas < FILAS_MINIMAS || num_elems < num_filas) {
+        guia.num_entradas = 0;
+        return;
+    }
+    // Entries span a power of two between a quarter and a half of the average row, so most
+    // indices lie in the row their entry names or the next.
+    const unsigned log_media = static_cast<unsigned>(std::bit_width(num_elems / num_filas)) - 1;
+    guia.desplazamiento = log_media > 0 ? log_media - 1 : 0;
+    const size_t entradas = ((num_elems - 1) >> guia.desplazamiento) + 1;
+    if (entradas > guia.capacidad) {
+        const size_t capacidad = entradas + entradas / 4;
+        guia.filas = static_cast<uint32_t *>(
+            zarpspy_nousar_realloc(guia.filas, capacidad * sizeof(uint32_t)));
+        guia.capacidad = capacidad;
+    }
+    // Each row marks the first entry at or after its start (a later row starting before the
+    // same entry overwrites it: it is the one holding the entry's index); an entry no row marks
+    // lies in the row of the entry before. Without branches on the layout.
+    uint32_t *const filas = guia.filas;
+    std::fill_n(filas, entradas, uint32_t{0});
+    const size_t redondeo = (size_t{1} << guia.desplazamiento) - 1;
+    for (size_t fila = 0; fila < num_filas; ++fila) {
+        const size_t primera = (array->acumulado_filas[fila] + redondeo) >> guia.desplazamiento;
+        if (primera < entradas)
+            filas[primera] = static_cast<uint32_t>(fila);
+    }
+    for (size_t entrada = 1; entrada < entradas; ++entrada)
+        filas[entrada] = std::max(filas[entrada], filas[entrada - 1]);
+    guia.num_entradas = entradas;
+    guia.filas_al_construir = num_filas;
+    guia.inversa_elems = 1.0 / static_cast<double>(num_elems);
+}
+
+} // namespace
+
+ARRAY *arrayprv_reserva_cabecera()
+{
+    auto *cabecera = static_cast<CabeceraArray *>(zarpspy_reserva_cabecera(sizeof(CabeceraArray)));
+    cabecera->guia = GuiaFilas{};
+    return &cabecera->array;
+}
+
+void arrayprv_guia_tras_cambio(ARRAY *array)
+{
+    GuiaFilas &guia = guia_de(array);
+    const size_t tramo = size_t{1} << (guia.num_entradas > 0 ? guia.desplazamiento : 6);
+    const size_t filas_nuevas = array->num_filas > guia.filas_al_construir
+                                    ? array->num_filas - guia.filas_al_construir
+                                    : guia.filas_al_construir - array->num_filas;
+    if (++guia.cambios >= TRAMOS_ENTRE_RECONSTRUCCIONES * tramo || filas_nuevas > FILAS_NUEVAS_MAXIMAS)
+        reconstruye(array, guia);
+}
+
+void arrayprv_guia_olvida(ARRAY *array)
+{
+    GuiaFilas &guia = guia_de(array);
+    zarpspy_nousar_free_pp(&guia.filas, sizeof(uint32_t));
+    guia = GuiaFilas{};
+}

@@ -1,0 +1,20 @@
+// The guide from indices to rows that the engine keeps beside each header, outside the header's
+// record (a reader of raw headers sees the record alone). It serves layouts of uneven rows, where
+// the row of an index cannot be computed: entry e names the row that held index e << desplazamiento
+// when the guide was last built. Inserts and deletes since then move row boundaries, so a lookup
+// takes the entry as a hint and confirms the row by the prefix sums; a stale entry costs time,
+// never a wrong answer. Inserts and deletes rebuild it every so often; reads only read it.
+#pragma once
+
+#include "core/arrayprv.h"
+
+#include <cstdint>
+
+// A header slot with an empty guide; the record is left for the caller to fill.
+ARRAY *arrayprv_reserva_cabecera();
+
+// Counts one insert or delete, and rebuilds the guide when enough of them may have moved its rows.
+void arrayprv_guia_tras_cambio(ARRAY *array);
+
+// Frees the guide; the next rebuild starts afresh. For changes that renumber rows wholesale.
+void arrayprv_guia_olvida(ARRAY *array);

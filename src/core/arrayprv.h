@@ -192,10 +192,10 @@ void arrayprv_borra_en_fila(ARRAY *array, const posicion_array *posi);
 
 // ---- Positions (the one place that maps an index to a row and offset) ----------------------
 
-// The row of a valid index when rows are of uneven length: from the guide's row when there is a
-// guide (that row, the next, then a window of prefix sums around it), else from the row the
-// average row length predicts, corrected once by its prefix sum's error, then a window around it;
-// bisection when the window misses. The prefix sums confirm the answer; false leaves the index to
+// The row of a valid index when rows are of uneven length: a window of prefix sums around the
+// guide's row when there is a guide, else around the row the average row length predicts,
+// corrected once by its prefix sum's error; bisection when the window misses (or there are too
+// few rows for one). The prefix sums confirm the answer; false leaves the index to
 // arrayprv_posicion.
 bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_array *posi);
 

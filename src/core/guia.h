@@ -8,8 +8,6 @@
 
 #include "core/arrayprv.h"
 
-#include <cstdint>
-
 // A header slot with an empty guide; the record is left for the caller to fill.
 ARRAY *arrayprv_reserva_cabecera();
 

@@ -1,7 +1,6 @@
 // Positions: an index maps to (row, offset) through the row counts and prefix sums; a position
 // can be advanced, checked, and turned into an element's address.
 #include "core/arrayprv.h"
-#include "core/guia.h"
 
 #include "services/informes.h"
 
@@ -86,29 +85,22 @@ bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_ar
         *posi = {fila, real_pos - acumulado[fila]};
         return true;
     };
-    const GuiaFilas &guia = arrayprv_guia(array);
-    if (size_t fila; arrayprv_fila_guiada(guia, real_pos, num_filas, fila)) {
-        // The guide's row, or the next one, holds most indices; a stale entry is off by a few
-        // rows, which the window around it covers.
-        if (contiene(fila))
-            return encontrada(fila);
-        if (fila + 1 < num_filas && contiene(fila + 1))
-            return encontrada(fila + 1);
-        fila = fila_en_ventana(acumulado, num_filas, fila, real_pos);
-        if (contiene(fila))
-            return encontrada(fila);
-    } else if (num_filas >= VENTANA) {
-        // The row the average row length predicts, corrected once by how many elements its
-        // prefix sum is off, at the same average.
-        const double filas_por_elemento = static_cast<double>(num_filas) / static_cast<double>(num_elems);
-        const auto acotada = [&](double fila) {
-            return fila <= 0 ? size_t{0} : std::min(static_cast<size_t>(fila), num_filas - 1);
-        };
-        const size_t prevista = acotada(real_pos * filas_por_elemento);
-        const double desvio = static_cast<double>(real_pos) - static_cast<double>(acumulado[prevista]);
-        const size_t fila = fila_en_ventana(
-            acumulado, num_filas,
-            acotada(static_cast<double>(prevista) + desvio * filas_por_elemento), real_pos);
+    if (num_filas >= VENTANA) {
+        // The window's centre: the guide's row when there is a guide (a stale entry is off by a
+        // few rows), else the row the average row length predicts, corrected once by how many
+        // elements its prefix sum is off, at the same average.
+        size_t centro;
+        if (!arrayprv_fila_guiada(arrayprv_guia(array), real_pos, num_filas, centro)) {
+            const double filas_por_elemento =
+                static_cast<double>(num_filas) / static_cast<double>(num_elems);
+            const auto acotada = [&](double fila) {
+                return fila <= 0 ? size_t{0} : std::min(static_cast<size_t>(fila), num_filas - 1);
+            };
+            const size_t prevista = acotada(real_pos * filas_por_elemento);
+            const double desvio = static_cast<double>(real_pos) - static_cast<double>(acumulado[prevista]);
+            centro = acotada(static_cast<double>(prevista) + desvio * filas_por_elemento);
+        }
+        const size_t fila = fila_en_ventana(acumulado, num_filas, centro, real_pos);
         if (contiene(fila))
             return encontrada(fila);
     }

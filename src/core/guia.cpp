@@ -11,9 +11,9 @@ namespace {
 // Below this many rows the prediction from the average row length is as quick as a guide.
 constexpr size_t FILAS_MINIMAS = 64;
 
-// Inserts and deletes between rebuilds, counted in the indices one entry spans: each change moves
-// row boundaries by one index,
-// so the rows named stay within a few rows of the truth, which the lookup's window covers.
+// Inserts and deletes between rebuilds, counted in the indices one entry spans (before the first
+// build, in FILAS_MINIMAS indices): each change moves row boundaries by one index, so the rows
+// named stay within a few rows of the truth, which the lookup's window covers.
 constexpr size_t TRAMOS_ENTRE_RECONSTRUCCIONES = 2;
 
 // Rows added or removed between rebuilds: the lookup spreads them evenly over the indices, which
@@ -72,7 +72,7 @@ ARRAY *arrayprv_reserva_cabecera()
 void arrayprv_guia_tras_cambio(ARRAY *array)
 {
     GuiaFilas &guia = guia_de(array);
-    const size_t tramo = size_t{1} << (guia.num_entradas > 0 ? guia.desplazamiento : 6);
+    const size_t tramo = guia.num_entradas > 0 ? size_t{1} << guia.desplazamiento : FILAS_MINIMAS;
     const size_t filas_nuevas = array->num_filas > guia.filas_al_construir
                                     ? array->num_filas - guia.filas_al_construir
                                     : guia.filas_al_construir - array->num_filas;

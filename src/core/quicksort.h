@@ -86,49 +86,38 @@ public:
         situa(indice_ - 1);
     }
 
-    // `while (sigue(elemento())) avanza();`, running through each row on a plain pointer.
-    template <typename Sigue> void avanza_mientras(Sigue &&sigue)
-    {
-        while (elemento_ != nullptr) {
-            const size_t quedan = long_fila_ - pos_;
-            char *elemento = elemento_;
-            for (size_t paso = 0;;) {
-                if (!sigue(elemento)) {
-                    salta(static_cast<LONG>(paso), elemento);
-                    return;
-                }
-                if (++paso == quedan)
-                    break;
-                elemento += size_elem_;
-            }
-            situa(indice_ + static_cast<LONG>(quedan));
-        }
-        while (sigue(elemento()))
-            avanza();
-    }
-
-    // `while (sigue(elemento())) retrocede();`, running through each row on a plain pointer.
-    template <typename Sigue> void retrocede_mientras(Sigue &&sigue)
-    {
-        while (elemento_ != nullptr) {
-            const size_t quedan = pos_ + 1;
-            char *elemento = elemento_;
-            for (size_t paso = 0;;) {
-                if (!sigue(elemento)) {
-                    salta(-static_cast<LONG>(paso), elemento);
-                    return;
-                }
-                if (++paso == quedan)
-                    break;
-                elemento -= size_elem_;
-            }
-            situa(indice_ - static_cast<LONG>(quedan));
-        }
-        while (sigue(elemento()))
-            retrocede();
-    }
+    // `while (sigue(elemento())) avanza();` and `... retrocede();`, running through each row on a
+    // plain pointer.
+    template <typename Sigue> void avanza_mientras(Sigue &&sigue) { mueve_mientras<1>(sigue); }
+    template <typename Sigue> void retrocede_mientras(Sigue &&sigue) { mueve_mientras<-1>(sigue); }
 
 private:
+    // Steps by SENTIDO (+1 forward, -1 back) while `sigue` holds for the element: inside a row on a
+    // pointer, across rows through situa, outside the array through elemento()'s lookup.
+    template <int SENTIDO, typename Sigue> void mueve_mientras(Sigue &sigue)
+    {
+        while (elemento_ != nullptr) {
+            const size_t quedan = SENTIDO > 0 ? long_fila_ - pos_ : pos_ + 1; // to the row's end
+            char *elemento = elemento_;
+            for (size_t paso = 0;;) {
+                if (!sigue(elemento)) {
+                    salta(SENTIDO * static_cast<LONG>(paso), elemento);
+                    return;
+                }
+                if (++paso == quedan)
+                    break;
+                elemento += SENTIDO * static_cast<ptrdiff_t>(size_elem_);
+            }
+            situa(indice_ + SENTIDO * static_cast<LONG>(quedan));
+        }
+        while (sigue(elemento())) {
+            if constexpr (SENTIDO > 0)
+                avanza();
+            else
+                retrocede();
+        }
+    }
+
     // Moves `paso` elements within the row, to the element at `elemento`.
     void salta(LONG paso, char *elemento)
     {
@@ -307,17 +296,17 @@ template <typename Comparacion> void arrayprv_quicksort(ARRAY *array, Comparacio
     pilaqsor_destruye(&pila);
 }
 
-// A default order, inlined: the values are read at their type and compared by ORDEN directly.
-// Identical strings (the same pointer) are equal without a call, as through the sort table; for
-// numbers the shortcut is left out, every default order calls identical values equal.
+// BOOL's default order, the one-sided one.
 template <auto ORDEN> inline constexpr bool es_orden_bool = false;
 template <> inline constexpr bool es_orden_bool<arrayprv_orden_bool> = true;
 
+// A default order, inlined: the values are read at their type and compared by ORDEN directly.
+// Identical strings (the same pointer) are equal without a call, as through the sort table; for
+// numbers the shortcut is left out, every default order calls identical values equal.
 template <typename T, int (*ORDEN)(T, T)> class ComparacionValores {
 public:
     // Numbers other than BOOL (whose order is one-sided) are totally ordered, but for NaN.
     static constexpr bool orden_total = std::is_arithmetic_v<T> && !es_orden_bool<ORDEN>;
-
 
     int orden(const void *a, const void *b) const
     {

@@ -56,9 +56,18 @@ struct ARRAY {
 };
 #pragma pack(pop)
 
-// The guide from indices to rows (core/guia.h) that the engine keeps beside each header, outside
-// the record: entry e names the row that held index e << desplazamiento when it was last built.
+// What the engine keeps beside each header, outside the record, to find the row of an index
+// (core/guia.h). First, where rows can be computed: every row before row indices_calculables >>
+// log_long_fila holds exactly long_max_fila_en_elem = 1 << log_long_fila elements, so an index
+// below both indices_calculables and num_elems lies in row index >> log_long_fila at offset
+// index & (long_max_fila_en_elem - 1). Writers lower it for any change that shortens, moves or
+// renumbers a row and count it up again as rows fill; it stays 0 unless the row length is a power
+// of two. The last row counts only once full, so a count of elements that disagrees with the rows
+// is still caught by the lookups that check. Then the guide proper: entry e names the row that
+// held index e << desplazamiento when it was last built.
 struct GuiaFilas {
+    size_t indices_calculables;
+    unsigned log_long_fila;
     uint32_t *filas;         // one row per entry; NULL until first built
     size_t num_entradas;     // entries in use: they cover the indices below num_entradas << desplazamiento
     size_t capacidad;        // entries allocated
@@ -214,19 +223,34 @@ inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos, size_t n
     return true;
 }
 
-// Finds the row of a valid index without the documented search when it can: first in the row the
-// guide names when there is a guide, else directly when every row before it is full; failing
-// that, through arrayprv_posicion_irregular. The prefix sums confirm every
+// The row and offset of an index that lies where rows can be computed (GuiaFilas); false for any
+// other index.
+inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posicion_array *posi)
+{
+    const GuiaFilas &guia = arrayprv_guia(array);
+    if (real_pos < guia.indices_calculables && real_pos < array->num_elems) {
+        const size_t fila = size_t{real_pos} >> guia.log_long_fila;
+        *posi = {fila, real_pos - (fila << guia.log_long_fila)};
+        return true;
+    }
+    return false;
+}
+
+// Finds the row of a valid index without the documented search when it can: computed where
+// rows can be computed; else in the row the guide names when there is a guide, else directly when
+// every row before it is full; failing that, through arrayprv_posicion_irregular. The prefix sums confirm every
 // answer; false (without a report) leaves the index, and any inconsistent header, to
 // arrayprv_posicion.
 [[gnu::always_inline]] inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos,
                                                             posicion_array *posi)
 {
+    if (arrayprv_posicion_calculada(array, real_pos, posi))
+        return true;
+    const GuiaFilas &guia = arrayprv_guia(array);
     const size_t num_filas = array->num_filas;
     const size_t long_max = array->long_max_fila_en_elem;
     if (real_pos >= array->num_elems || num_filas == 0 || long_max == 0) [[unlikely]]
         return false;
-    const GuiaFilas &guia = arrayprv_guia(array);
     size_t fila;
     if (arrayprv_fila_guiada(guia, real_pos, num_filas, fila)) {
         // Entries span less than a row: the next row holds the index when it starts at or before
@@ -269,14 +293,27 @@ template <size_t TAMANYO> inline size_t arrayprv_tamanyo_rapido(const ARRAY *arr
     return TAMANYO != 0 ? TAMANYO : size_t{array->size_elem};
 }
 
+// What every fast path below checks first: a live array of the tag whose elements are of TAMANYO
+// bytes, when given.
+template <size_t TAMANYO = 0> inline bool arrayprv_vivo_de_tipo(const ARRAY *array, tipo_elem_array tipo_elem)
+{
+    return array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->tipo_elem == tipo_elem &&
+           array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array);
+}
+
+// A live array of the tag (and size) that no traversal is running over: it may be written.
+template <size_t TAMANYO = 0> inline bool arrayprv_vivo_e_inactivo(const ARRAY *array, tipo_elem_array tipo_elem)
+{
+    return arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) && array->en_bucle == FALSO &&
+           array->en_bucle_lectura == FALSO;
+}
+
 // True when an append may store straight into the last row's room: a live idle array of the tag
-// (and of the size TAMANYO, when given) outside checking mode.
+// (and of the size TAMANYO, when given) with rows, outside checking mode.
 template <size_t TAMANYO = 0>
 inline bool arrayprv_anyade_directo(const ARRAY *array, tipo_elem_array tipo_elem)
 {
-    return array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
-           array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem && array->num_filas > 0 &&
-           array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array) &&
+    return arrayprv_vivo_e_inactivo<TAMANYO>(array, tipo_elem) && array->num_filas > 0 &&
            !arrayprv_es_modo_comprobacion();
 }
 
@@ -302,31 +339,30 @@ void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento,
                       tipo_elem_array tipo_elem);
 void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
 // Address of the element inside its row, valid until the array next changes; NULL when the
-// element cannot be reached.
+// element cannot be reached. Quickly when the array is live and of the tag and the row is found
+// without the documented search; otherwise after the full entry checks.
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
-// TAMANYO as for arrayprv_tamanyo_rapido.
+// The same; inline where the row can be computed. TAMANYO as for arrayprv_tamanyo_rapido.
 template <size_t TAMANYO = 0>
 inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
-    if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->tipo_elem == tipo_elem &&
-        array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array) &&
-        arrayprv_posicion_rapida(array, real_pos, &posi)) [[likely]]
+    if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) &&
+        arrayprv_posicion_calculada(array, real_pos, &posi)) [[likely]]
         return array->buffer[posi.fila] + posi.pos * arrayprv_tamanyo_rapido<TAMANYO>(array);
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }
 
+// Overwrites one element; quickly as arrayprv_get_comprobado finds one.
 void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
                              tipo_elem_array tipo_elem);
-// Overwrites one element; TAMANYO as for arrayprv_tamanyo_rapido.
+// The same; inline where the row can be computed. TAMANYO as for arrayprv_tamanyo_rapido.
 template <size_t TAMANYO = 0>
 inline void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
-    if (array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->en_bucle == FALSO &&
-        array->en_bucle_lectura == FALSO && array->tipo_elem == tipo_elem &&
-        array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array) &&
-        arrayprv_posicion_rapida(array, real_pos, &posi)) [[likely]] {
+    if (arrayprv_vivo_e_inactivo<TAMANYO>(array, tipo_elem) &&
+        arrayprv_posicion_calculada(array, real_pos, &posi)) [[likely]] {
         const size_t size_elem = arrayprv_tamanyo_rapido<TAMANYO>(array);
         std::memcpy(array->buffer[posi.fila] + posi.pos * size_elem, elemento, size_elem);
         return;

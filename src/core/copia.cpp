@@ -145,6 +145,7 @@ ARRAY *arrayprv_copia(const ARRAY *array, funcion_copia copia)
             }
             nuevo->buffer[fila] = destino;
         }
+        arrayprv_cuenta_filas_llenas(nuevo);
     }
     nuevo->mascara_debug = MASCARA_DEBUG;
     nuevo->en_bucle = FALSO;

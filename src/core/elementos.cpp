@@ -127,8 +127,9 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
-    if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, false, Modo::ninguno, tipo_elem) ||
-        !arrayprv_posicion(array, real_pos, &posi))
+    const bool rapida = arrayprv_vivo_de_tipo(array, tipo_elem) && arrayprv_posicion_rapida(array, real_pos, &posi);
+    if (!rapida && (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, false, Modo::ninguno, tipo_elem) ||
+                    !arrayprv_posicion(array, real_pos, &posi)))
         return nullptr;
     return array->buffer[posi.fila] + posi.pos * array->size_elem;
 }
@@ -137,8 +138,10 @@ void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
                              tipo_elem_array tipo_elem)
 {
     posicion_array posi;
-    if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::ninguno, tipo_elem) ||
-        !arrayprv_posicion(array, real_pos, &posi))
+    const bool rapida =
+        arrayprv_vivo_e_inactivo(array, tipo_elem) && arrayprv_posicion_rapida(array, real_pos, &posi);
+    if (!rapida && (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::ninguno, tipo_elem) ||
+                    !arrayprv_posicion(array, real_pos, &posi)))
         return;
     std::memcpy(array->buffer[posi.fila] + posi.pos * array->size_elem, elemento, array->size_elem);
 }
@@ -213,6 +216,7 @@ void arrayprv_recorta(ARRAY *array, size_t nuevo_tamanyo)
     // From the last row backwards; capacities stay and the cut slots are not cleared.
     for (size_t fila = array->num_filas; fila-- > 0 && array->num_elems > nuevo_tamanyo;) {
         const size_t k = std::min(array->num_elems - nuevo_tamanyo, array->long_filas[fila]);
+        arrayprv_filas_cambian_desde(array, fila);
         array->long_filas[fila] -= k;
         array->num_elems -= k;
     }

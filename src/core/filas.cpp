@@ -165,6 +165,7 @@ void arrayprv_anyade_filas(ARRAY *array, size_t num_elems_a_poner)
     }
     array->num_filas = primera + numfilas;
     array->num_elems += num_elems_a_poner;
+    arrayprv_cuenta_filas_llenas(array);
 }
 
 void arrayprv_inserta_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
@@ -174,6 +175,7 @@ void arrayprv_inserta_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
     if (!fila_valida)
         return;
     const size_t posteriores = array->num_filas - fila;
+    arrayprv_filas_cambian_desde(array, fila);
     redimensiona_tablas(array, array->num_filas + 1);
     std::memmove(array->buffer + fila + 1, array->buffer + fila, posteriores * sizeof(char *));
     std::memmove(array->long_filas + fila + 1, array->long_filas + fila, posteriores * sizeof(size_t));
@@ -189,6 +191,7 @@ void arrayprv_inserta_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
     array->acumulado_filas[fila] =
         fila == 0 ? 0 : array->acumulado_filas[fila - 1] + array->long_filas[fila - 1];
     ++array->num_filas;
+    arrayprv_cuenta_filas_llenas(array);
 }
 
 void arrayprv_borra_fila(ARRAY *array, size_t fila)
@@ -196,6 +199,7 @@ void arrayprv_borra_fila(ARRAY *array, size_t fila)
     if (!ARR_EXIGE(array->num_filas > 0, "array->num_filas > 0") || fila >= array->num_filas)
         return;
     const size_t quitados = array->long_filas[fila];
+    arrayprv_filas_cambian_desde(array, fila);
     zarpspy_nousar_free_pp(&array->buffer[fila], 1);
     if (array->num_filas == 1) {
         libera_tablas(array);
@@ -289,6 +293,7 @@ void arrayprv_compacta(ARRAY *array)
     }
     arrayprv_quita_filas_vacias(array);
     arrayprv_guia_olvida(array);
+    arrayprv_cuenta_filas_llenas(array);
 }
 
 void arrayprv_mueve_elementos(ARRAY *array, size_t fila_dest, size_t pos_dest, size_t fila_org,
@@ -305,6 +310,7 @@ void arrayprv_mueve_elementos(ARRAY *array, size_t fila_dest, size_t pos_dest, s
     const bool valido = hay_run && filas_distintas && cabe_en_origen && cabe_en_destino;
     if (!valido || pos_dest > array->long_filas[fila_dest])
         return;
+    arrayprv_filas_cambian_desde(array, std::min(fila_dest, fila_org));
     const size_t size = array->size_elem;
     const size_t libres = array->max_long_filas[fila_dest] - array->long_filas[fila_dest];
     if (libres < elem_a_mover)
@@ -339,6 +345,7 @@ bool arrayprv_inserta_en_fila(ARRAY *array, const posicion_array *posi, const vo
         if (array->long_filas[fila] >= array->max_long_filas[fila])
             return false;
     }
+    // Lengthening a row leaves the computable indices as they are: a full row cannot lengthen.
     const size_t size = array->size_elem;
     std::memmove(elemento(array, fila, posi->pos + 1), elemento(array, fila, posi->pos),
                  (array->long_filas[fila] - posi->pos) * size);
@@ -359,6 +366,7 @@ void arrayprv_borra_en_fila(ARRAY *array, const posicion_array *posi)
         arrayprv_borra_fila(array, fila);
         return;
     }
+    arrayprv_filas_cambian_desde(array, fila);
     const size_t size = array->size_elem;
     const size_t ultimo = array->long_filas[fila] - 1;
     std::memmove(elemento(array, fila, posi->pos), elemento(array, fila, posi->pos + 1),

@@ -86,3 +86,17 @@ void arrayprv_guia_olvida(ARRAY *array)
     zarpspy_nousar_free_pp(&guia.filas, sizeof(uint32_t));
     guia = GuiaFilas{};
 }
+
+void arrayprv_cuenta_filas_llenas(ARRAY *array)
+{
+    GuiaFilas &guia = guia_de(array);
+    const size_t long_max = array->long_max_fila_en_elem;
+    if (!std::has_single_bit(long_max))
+        return;
+    const unsigned log_long_fila = static_cast<unsigned>(std::countr_zero(long_max));
+    size_t llenas = guia.indices_calculables >> guia.log_long_fila;
+    while (llenas < array->num_filas && array->long_filas[llenas] == long_max)
+        ++llenas;
+    guia.log_long_fila = log_long_fila;
+    guia.indices_calculables = llenas << log_long_fila;
+}

@@ -16,3 +16,17 @@ void arrayprv_guia_tras_cambio(ARRAY *array);
 
 // Frees the guide; the next rebuild starts afresh. For changes that renumber rows wholesale.
 void arrayprv_guia_olvida(ARRAY *array);
+
+// Lowers the computable indices to those before row `fila`, for a change that may shorten, move
+// or renumber row `fila` or the rows after it.
+inline void arrayprv_filas_cambian_desde(ARRAY *array, size_t fila)
+{
+    GuiaFilas &guia = reinterpret_cast<CabeceraArray *>(array)->guia;
+    const size_t indices = fila << guia.log_long_fila;
+    if (indices < guia.indices_calculables)
+        guia.indices_calculables = indices;
+}
+
+// Counts the computable indices up again over the rows that are full, for a change that adds or
+// fills rows. Only rows from the first one not yet counted on are looked at.
+void arrayprv_cuenta_filas_llenas(ARRAY *array);

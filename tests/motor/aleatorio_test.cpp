@@ -72,6 +72,7 @@ public:
             const ULONG64 informes_antes = arr_num_informes();
             opera();
             arrayprv_comprueba_array(array_, 1);
+            comprueba_filas_calculables(array_);
             ASSERT_EQ(arr_num_informes(), informes_antes);
             ASSERT_EQ(arr_NumElemsDouble(array_), modelo_.size());
             if (paso % PASOS_POR_COMPARACION == 0) {

@@ -78,6 +78,22 @@ std::vector<size_t> acumulados(const ARRAY *array)
     return tabla(array->acumulado_filas, array->num_filas);
 }
 
+void comprueba_filas_calculables(const ARRAY *array)
+{
+    const GuiaFilas &guia = arrayprv_guia(array);
+    const size_t calculables = guia.indices_calculables;
+    if (calculables == 0)
+        return;
+    const size_t long_max = array->long_max_fila_en_elem;
+    ASSERT_EQ(size_t{1} << guia.log_long_fila, long_max);
+    const std::vector<size_t> cuentas = longitudes(array);
+    const size_t filas = calculables >> guia.log_long_fila;
+    ASSERT_EQ(filas << guia.log_long_fila, calculables);
+    ASSERT_LE(filas, cuentas.size());
+    for (size_t fila = 0; fila < filas; ++fila)
+        ASSERT_EQ(cuentas[fila], long_max) << "row " << fila;
+}
+
 double double_en(const ARRAY *array, size_t fila, size_t pos)
 {
     double valor;

@@ -44,6 +44,10 @@ std::tuple<size_t, size_t> posicion_contada(const std::vector<size_t> &longitude
 // Maps every index of the array through the engine and compares with posicion_contada.
 void comprueba_todas_las_posiciones(const ARRAY *array);
 
+// Checks what the engine claims of the rows it computes (GuiaFilas::indices_calculables): every
+// row it claims is full.
+void comprueba_filas_calculables(const ARRAY *array);
+
 // The element at (fila, pos) read straight from its row block, even past the row's count.
 double double_en(const ARRAY *array, size_t fila, size_t pos);
 

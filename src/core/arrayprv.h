@@ -73,7 +73,10 @@ struct GuiaFilas {
     size_t capacidad;        // entries allocated
     size_t cambios;          // inserts and deletes since the guide was last built
     size_t filas_al_construir; // num_filas when it was last built
-    double inversa_elems;      // 1 / num_elems when it was last built
+    size_t elems_al_construir; // num_elems when it was last built
+    // Rows that inserts and deletes have added (below 0: removed) since the build, spread evenly
+    // over the indices: rows per index in 32.32 fixed point.
+    int64_t filas_nuevas_por_indice;
     unsigned desplazamiento; // log2 of the indices each entry spans
 };
 
@@ -216,10 +219,10 @@ inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos, size_t n
     const size_t entrada = real_pos >> guia.desplazamiento;
     if (entrada >= guia.num_entradas)
         return false;
-    const double filas_nuevas =
-        static_cast<double>(num_filas) - static_cast<double>(guia.filas_al_construir);
-    const double guiada = guia.filas[entrada] + filas_nuevas * real_pos * guia.inversa_elems;
-    fila = guiada <= 0 ? 0 : guiada >= static_cast<double>(num_filas) ? num_filas - 1 : static_cast<size_t>(guiada);
+    const int64_t guiada =
+        int64_t{guia.filas[entrada]} + ((int64_t{real_pos} * guia.filas_nuevas_por_indice) >> 32);
+    const int64_t ultima = static_cast<int64_t>(num_filas) - 1;
+    fila = static_cast<size_t>(guiada < 0 ? 0 : guiada > ultima ? ultima : guiada);
     return true;
 }
 
@@ -253,10 +256,13 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
         return false;
     size_t fila;
     if (arrayprv_fila_guiada(guia, real_pos, num_filas, fila)) {
-        // Entries span less than a row: the next row holds the index when it starts at or before
-        // it (chosen without a branch).
+        // Entries span less than a row, and inserts since the build move indices up into the
+        // rows before: the row before or the next one holds the index when the guide's row does
+        // not (chosen without a branch).
+        const size_t anterior = fila > 0 ? fila - 1 : 0;
         const size_t siguiente = fila + 1 < num_filas ? fila + 1 : fila;
-        fila = array->acumulado_filas[siguiente] <= real_pos ? siguiente : fila;
+        const size_t *const acumulado = array->acumulado_filas;
+        fila = real_pos < acumulado[fila] ? anterior : acumulado[siguiente] <= real_pos ? siguiente : fila;
     } else {
         // Rows of a power-of-two length (every element size but 24 bytes) divide by a shift.
         if ((long_max & (long_max - 1)) == 0) [[likely]]

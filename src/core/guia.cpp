@@ -57,7 +57,8 @@ void reconstruye(ARRAY *array, GuiaFilas &guia)
         filas[entrada] = std::max(filas[entrada], filas[entrada - 1]);
     guia.num_entradas = entradas;
     guia.filas_al_construir = num_filas;
-    guia.inversa_elems = 1.0 / static_cast<double>(num_elems);
+    guia.elems_al_construir = num_elems;
+    guia.filas_nuevas_por_indice = 0;
 }
 
 } // namespace
@@ -78,6 +79,10 @@ void arrayprv_guia_tras_cambio(ARRAY *array)
                                     : guia.filas_al_construir - array->num_filas;
     if (++guia.cambios >= TRAMOS_ENTRE_RECONSTRUCCIONES * tramo || filas_nuevas > FILAS_NUEVAS_MAXIMAS)
         reconstruye(array, guia);
+    else if (guia.num_entradas > 0)
+        guia.filas_nuevas_por_indice =
+            ((static_cast<int64_t>(array->num_filas) - static_cast<int64_t>(guia.filas_al_construir)) << 32) /
+            static_cast<int64_t>(guia.elems_al_construir);
 }
 
 void arrayprv_guia_olvida(ARRAY *array)

@@ -239,11 +239,11 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
     return false;
 }
 
-// Finds the row of a valid index without the documented search when it can: computed where
-// rows can be computed; else in the row the guide names when there is a guide, else directly when
-// every row before it is full; failing that, through arrayprv_posicion_irregular. The prefix sums confirm every
-// answer; false (without a report) leaves the index, and any inconsistent header, to
-// arrayprv_posicion.
+// Finds the row of a valid index without the documented search when it can: computed where rows
+// can be computed; else in the row the guide names when there is a guide, else directly when every
+// row before it is full; failing that, through arrayprv_posicion_irregular. The prefix sums
+// confirm every answer outside the computed rows; false (without a report) leaves the index, and
+// any inconsistent header, to arrayprv_posicion.
 [[gnu::always_inline]] inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos,
                                                             posicion_array *posi)
 {
@@ -262,7 +262,9 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
         const size_t anterior = fila > 0 ? fila - 1 : 0;
         const size_t siguiente = fila + 1 < num_filas ? fila + 1 : fila;
         const size_t *const acumulado = array->acumulado_filas;
-        fila = real_pos < acumulado[fila] ? anterior : acumulado[siguiente] <= real_pos ? siguiente : fila;
+        fila = real_pos < acumulado[fila]          ? anterior
+               : acumulado[siguiente] <= real_pos ? siguiente
+                                                  : fila;
     } else {
         // Rows of a power-of-two length (every element size but 24 bytes) divide by a shift.
         if ((long_max & (long_max - 1)) == 0) [[likely]]
@@ -301,14 +303,16 @@ template <size_t TAMANYO> inline size_t arrayprv_tamanyo_rapido(const ARRAY *arr
 
 // What every fast path below checks first: a live array of the tag whose elements are of TAMANYO
 // bytes, when given.
-template <size_t TAMANYO = 0> inline bool arrayprv_vivo_de_tipo(const ARRAY *array, tipo_elem_array tipo_elem)
+template <size_t TAMANYO = 0>
+inline bool arrayprv_vivo_de_tipo(const ARRAY *array, tipo_elem_array tipo_elem)
 {
-    return array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->tipo_elem == tipo_elem &&
-           array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array);
+    return array != nullptr && array->mascara_debug == MASCARA_DEBUG &&
+           array->tipo_elem == tipo_elem && array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array);
 }
 
 // A live array of the tag (and size) that no traversal is running over: it may be written.
-template <size_t TAMANYO = 0> inline bool arrayprv_vivo_e_inactivo(const ARRAY *array, tipo_elem_array tipo_elem)
+template <size_t TAMANYO = 0>
+inline bool arrayprv_vivo_e_inactivo(const ARRAY *array, tipo_elem_array tipo_elem)
 {
     return arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) && array->en_bucle == FALSO &&
            array->en_bucle_lectura == FALSO;

@@ -127,9 +127,11 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
-    const bool rapida = arrayprv_vivo_de_tipo(array, tipo_elem) && arrayprv_posicion_rapida(array, real_pos, &posi);
-    if (!rapida && (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, false, Modo::ninguno, tipo_elem) ||
-                    !arrayprv_posicion(array, real_pos, &posi)))
+    const bool rapida =
+        arrayprv_vivo_de_tipo(array, tipo_elem) && arrayprv_posicion_rapida(array, real_pos, &posi);
+    if (!rapida &&
+        (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, false, Modo::ninguno, tipo_elem) ||
+         !arrayprv_posicion(array, real_pos, &posi)))
         return nullptr;
     return array->buffer[posi.fila] + posi.pos * array->size_elem;
 }
@@ -140,8 +142,9 @@ void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
     posicion_array posi;
     const bool rapida =
         arrayprv_vivo_e_inactivo(array, tipo_elem) && arrayprv_posicion_rapida(array, real_pos, &posi);
-    if (!rapida && (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::ninguno, tipo_elem) ||
-                    !arrayprv_posicion(array, real_pos, &posi)))
+    if (!rapida &&
+        (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::ninguno, tipo_elem) ||
+         !arrayprv_posicion(array, real_pos, &posi)))
         return;
     std::memcpy(array->buffer[posi.fila] + posi.pos * array->size_elem, elemento, array->size_elem);
 }

@@ -74,15 +74,17 @@ void arrayprv_guia_tras_cambio(ARRAY *array)
 {
     GuiaFilas &guia = guia_de(array);
     const size_t tramo = guia.num_entradas > 0 ? size_t{1} << guia.desplazamiento : FILAS_MINIMAS;
-    const size_t filas_nuevas = array->num_filas > guia.filas_al_construir
-                                    ? array->num_filas - guia.filas_al_construir
-                                    : guia.filas_al_construir - array->num_filas;
-    if (++guia.cambios >= TRAMOS_ENTRE_RECONSTRUCCIONES * tramo || filas_nuevas > FILAS_NUEVAS_MAXIMAS)
+    const int64_t filas_nuevas =
+        static_cast<int64_t>(array->num_filas) - static_cast<int64_t>(guia.filas_al_construir);
+    const int64_t maximas = FILAS_NUEVAS_MAXIMAS;
+    if (++guia.cambios >= TRAMOS_ENTRE_RECONSTRUCCIONES * tramo || filas_nuevas > maximas ||
+        filas_nuevas < -maximas)
         reconstruye(array, guia);
     else if (guia.num_entradas > 0)
+        // At most FILAS_NUEVAS_MAXIMAS rows over the indices the entries cover: the lookup's
+        // product of an index and this stays far below 2^63.
         guia.filas_nuevas_por_indice =
-            ((static_cast<int64_t>(array->num_filas) - static_cast<int64_t>(guia.filas_al_construir)) << 32) /
-            static_cast<int64_t>(guia.elems_al_construir);
+            filas_nuevas * (int64_t{1} << 32) / static_cast<int64_t>(guia.elems_al_construir);
 }
 
 void arrayprv_guia_olvida(ARRAY *array)

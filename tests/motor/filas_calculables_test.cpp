@@ -128,6 +128,22 @@ TEST_F(FilasCalculables, GrowingCompactsAndCountsEveryRowAgain)
     arr_DestruyeDouble(&array);
 }
 
+TEST_F(FilasCalculables, GrowingWithinTheLastRowCountsTheRowsCompactionFilled)
+{
+    ARRAY *array = crea_doubles_anyadidos(48, FILA_DE_OCHO);
+    arr_BorrarDouble(array, 2);
+    arr_BorrarDouble(array, 20);
+    ASSERT_EQ(calculables(array), 0u);
+    arr_AumentaTamanyoDouble(array, 47); // compaction leaves 8, 8, 8, 8, 8, 6: the last takes one
+    EXPECT_EQ(calculables(array), 40u);
+    std::vector<double> esperado = numerados(1, 48);
+    esperado.erase(esperado.begin() + 2);
+    esperado.erase(esperado.begin() + 20);
+    esperado.push_back(0.0);
+    comprueba(array, esperado);
+    arr_DestruyeDouble(&array);
+}
+
 TEST_F(FilasCalculables, ACopyComputesTheRowsItsOriginalDid)
 {
     ARRAY *array = crea_doubles_anyadidos(45, FILA_DE_OCHO);

@@ -8,8 +8,8 @@
 // The tables are all NULL exactly when num_filas is 0. Slots past a row's count are zero, except
 // those that a shrink cut off, which keep their old contents. Elements are moved as raw bytes
 // of size_elem; the engine switches on tipo_elem only where types differ (sizes, comparators,
-// owned strings). Beside the record, in the same slot, the engine keeps a guide from indices to
-// rows for uneven layouts (GuiaFilas).
+// owned strings). Beside the record, in the same slot, the engine keeps what finds the row of an
+// index quickly (GuiaFilas): how many leading rows are full, and a guide for uneven layouts.
 //
 // Every public operation checks its preconditions and reports a broken one by its exact text.
 // After a report it carries on, except that a NULL handle, a wrong validity mark, a wrong tag or
@@ -90,6 +90,7 @@ inline const GuiaFilas &arrayprv_guia(const ARRAY *array)
 {
     return reinterpret_cast<const CabeceraArray *>(array)->guia;
 }
+inline GuiaFilas &arrayprv_guia(ARRAY *array) { return reinterpret_cast<CabeceraArray *>(array)->guia; }
 
 // One element: its row and its offset in the row. Valid while fila < num_filas and
 // pos < long_filas[fila].

@@ -20,8 +20,6 @@ constexpr size_t TRAMOS_ENTRE_RECONSTRUCCIONES = 2;
 // puts the guide's row within a few rows of the truth while they are few.
 constexpr size_t FILAS_NUEVAS_MAXIMAS = 64;
 
-GuiaFilas &guia_de(ARRAY *array) { return reinterpret_cast<CabeceraArray *>(array)->guia; }
-
 void reconstruye(ARRAY *array, GuiaFilas &guia)
 {
     const size_t num_filas = array->num_filas;
@@ -72,7 +70,7 @@ ARRAY *arrayprv_reserva_cabecera()
 
 void arrayprv_guia_tras_cambio(ARRAY *array)
 {
-    GuiaFilas &guia = guia_de(array);
+    GuiaFilas &guia = arrayprv_guia(array);
     const size_t tramo = guia.num_entradas > 0 ? size_t{1} << guia.desplazamiento : FILAS_MINIMAS;
     const int64_t filas_nuevas =
         static_cast<int64_t>(array->num_filas) - static_cast<int64_t>(guia.filas_al_construir);
@@ -89,14 +87,14 @@ void arrayprv_guia_tras_cambio(ARRAY *array)
 
 void arrayprv_guia_olvida(ARRAY *array)
 {
-    GuiaFilas &guia = guia_de(array);
+    GuiaFilas &guia = arrayprv_guia(array);
     zarpspy_nousar_free_pp(&guia.filas, sizeof(uint32_t));
     guia = GuiaFilas{};
 }
 
 void arrayprv_cuenta_filas_llenas(ARRAY *array)
 {
-    GuiaFilas &guia = guia_de(array);
+    GuiaFilas &guia = arrayprv_guia(array);
     const size_t long_max = array->long_max_fila_en_elem;
     if (!std::has_single_bit(long_max))
         return;

@@ -1,5 +1,6 @@
-// The guide from indices to rows that the engine keeps beside each header, outside the header's
-// record (a reader of raw headers sees the record alone). It serves layouts of uneven rows, where
+// What the engine keeps beside each header, outside the header's record (a reader of raw headers
+// sees the record alone), to find the row of an index: the leading full rows, whose rows are
+// computed, and a guide from indices to rows. The guide serves layouts of uneven rows, where
 // the row of an index cannot be computed: entry e names the row that held index e << desplazamiento
 // when the guide was last built. Inserts and deletes since then move row boundaries, so a lookup
 // takes the entry as a hint and confirms the row by the prefix sums; a stale entry costs time,
@@ -21,7 +22,7 @@ void arrayprv_guia_olvida(ARRAY *array);
 // or renumber row `fila` or the rows after it.
 inline void arrayprv_filas_cambian_desde(ARRAY *array, size_t fila)
 {
-    GuiaFilas &guia = reinterpret_cast<CabeceraArray *>(array)->guia;
+    GuiaFilas &guia = arrayprv_guia(array);
     const size_t indices = fila << guia.log_long_fila;
     if (indices < guia.indices_calculables)
         guia.indices_calculables = indices;

@@ -26,6 +26,19 @@ void comprueba(const ARRAY *array, const std::vector<double> &esperado)
     EXPECT_EQ(contenido(const_cast<ARRAY *>(array)), esperado);
 }
 
+// 48 appended elements in rows of 8, two of them deleted (from rows 0 and 2): no row is computed
+// any more. `esperado` receives the elements that remain.
+ARRAY *crea_con_dos_borrados(std::vector<double> &esperado)
+{
+    ARRAY *array = crea_doubles_anyadidos(48, FILA_DE_OCHO);
+    arr_BorrarDouble(array, 2);
+    arr_BorrarDouble(array, 20);
+    esperado = numerados(1, 48);
+    esperado.erase(esperado.begin() + 2);
+    esperado.erase(esperado.begin() + 20);
+    return array;
+}
+
 TEST_F(FilasCalculables, AppendsMakeEveryFullRowComputable)
 {
     ARRAY *array = crea_doubles_anyadidos(45, FILA_DE_OCHO); // five full rows and five elements
@@ -114,15 +127,11 @@ TEST_F(FilasCalculables, ShrinkingKeepsOnlyTheRowsBeforeTheCut)
 
 TEST_F(FilasCalculables, GrowingCompactsAndCountsEveryRowAgain)
 {
-    ARRAY *array = crea_doubles_anyadidos(48, FILA_DE_OCHO);
-    arr_BorrarDouble(array, 2);
-    arr_BorrarDouble(array, 20);
+    std::vector<double> esperado;
+    ARRAY *array = crea_con_dos_borrados(esperado);
     ASSERT_EQ(calculables(array), 0u);
     arr_AumentaTamanyoDouble(array, 50);
     EXPECT_EQ(calculables(array), 48u);
-    std::vector<double> esperado = numerados(1, 48);
-    esperado.erase(esperado.begin() + 2);
-    esperado.erase(esperado.begin() + 20);
     esperado.resize(50, 0.0);
     comprueba(array, esperado);
     arr_DestruyeDouble(&array);
@@ -130,15 +139,11 @@ TEST_F(FilasCalculables, GrowingCompactsAndCountsEveryRowAgain)
 
 TEST_F(FilasCalculables, GrowingWithinTheLastRowCountsTheRowsCompactionFilled)
 {
-    ARRAY *array = crea_doubles_anyadidos(48, FILA_DE_OCHO);
-    arr_BorrarDouble(array, 2);
-    arr_BorrarDouble(array, 20);
+    std::vector<double> esperado;
+    ARRAY *array = crea_con_dos_borrados(esperado);
     ASSERT_EQ(calculables(array), 0u);
     arr_AumentaTamanyoDouble(array, 47); // compaction leaves 8, 8, 8, 8, 8, 6: the last takes one
     EXPECT_EQ(calculables(array), 40u);
-    std::vector<double> esperado = numerados(1, 48);
-    esperado.erase(esperado.begin() + 2);
-    esperado.erase(esperado.begin() + 20);
     esperado.push_back(0.0);
     comprueba(array, esperado);
     arr_DestruyeDouble(&array);

@@ -76,7 +76,7 @@ TEST_F(Guia, EveryIndexIsFoundThroughAStaleGuide)
 TEST_F(Guia, AGuideNamingWrongRowsChangesNoAnswer)
 {
     ARRAY *array = crea_desigual(60000, 3000, true);
-    GuiaFilas &guia = reinterpret_cast<CabeceraArray *>(array)->guia;
+    GuiaFilas &guia = arrayprv_guia(array);
     ASSERT_GT(guia.num_entradas, 0u);
     std::mt19937 azar(5);
     for (size_t entrada = 0; entrada < guia.num_entradas; ++entrada)

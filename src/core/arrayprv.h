@@ -63,21 +63,36 @@ struct ARRAY {
 // index & (long_max_fila_en_elem - 1). Writers lower it for any change that shortens, moves or
 // renumbers a row and count it up again as rows fill; it stays 0 unless the row length is a power
 // of two. The last row counts only once full, so a count of elements that disagrees with the rows
-// is still caught by the lookups that check. Then the guide proper: entry e names the row that
-// held index e << desplazamiento when it was last built.
+// is still caught by the lookups that check.
+//
+// Then the guide proper, for uneven rows. When it was built, entry e described the span of
+// 1 << desplazamiento indices from e << desplazamiento: the row holding its first index, shifted
+// left by desplazamiento, or'ed with the offset in the span where the next row starts, minus one
+// (the span's length minus one when the row runs past the span). Each fits in 32 bits, since
+// desplazamiento is at most half the average row length. Since the build, inserts and deletes
+// are counted per block of ENTRADAS_POR_BLOQUE entries: how many elements have been inserted
+// (below 0: deleted) before the block's span of current indices, and how many rows have been
+// inserted (below 0: removed) before the block's entries. An index goes back to the index its
+// element had at the build by its block's element count, and forward from the row its entry
+// names to its current row by the row count of the entry's block. A change inside a block is not
+// counted for the rest of that block, so a read there may miss; the prefix sums confirm every
+// answer.
+inline constexpr unsigned LOG_ENTRADAS_POR_BLOQUE = 6;
+inline constexpr size_t ENTRADAS_POR_BLOQUE = size_t{1} << LOG_ENTRADAS_POR_BLOQUE;
+
 struct GuiaFilas {
     size_t indices_calculables;
     unsigned log_long_fila;
-    uint32_t *filas;         // one row per entry; NULL until first built
-    size_t num_entradas;     // entries in use: they cover the indices below num_entradas << desplazamiento
-    size_t capacidad;        // entries allocated
-    size_t cambios;          // inserts and deletes since the guide was last built
-    size_t filas_al_construir; // num_filas when it was last built
-    size_t elems_al_construir; // num_elems when it was last built
-    // Rows that inserts and deletes have added (below 0: removed) since the build, spread evenly
-    // over the indices: rows per index in 32.32 fixed point.
-    int64_t filas_nuevas_por_indice;
     unsigned desplazamiento; // log2 of the indices each entry spans
+    size_t mascara;          // (1 << desplazamiento) - 1
+    int32_t *elems_insertados; // per block of current indices; NULL until first built (the rest
+                               // follows in the same allocation)
+    int32_t *filas_insertadas; // per block of entries
+    uint32_t *entradas;
+    size_t num_entradas;     // entries in use; 0 while there is no guide
+    size_t num_bloques;      // blocks in use: they cover the indices below num_entradas << desplazamiento
+    size_t capacidad;        // entries allocated (and blocks, capacidad / ENTRADAS_POR_BLOQUE + 1)
+    size_t cambios;          // inserts and deletes since the guide was last built
 };
 
 // Every header slot: the record first, then what the engine keeps beside it.
@@ -212,18 +227,24 @@ void arrayprv_borra_en_fila(ARRAY *array, const posicion_array *posi);
 // arrayprv_posicion.
 bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_array *posi);
 
-// The guide's row for `real_pos`: the row its entry names, moved by the rows added (or removed)
-// since the guide was built, taken as spread evenly over the indices. Below num_filas; false when
-// the guide has no entry for the index.
-inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos, size_t num_filas, size_t &fila)
+// The guide's row for `real_pos` (GuiaFilas): exact unless a change since the build fell inside
+// the index's block, or a row is shorter than an entry's span. It may lie past the last row (the
+// arithmetic is unsigned: a count below 0 wraps); false when the guide has no entry for the index.
+inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos, size_t &fila)
 {
-    const size_t entrada = real_pos >> guia.desplazamiento;
+    const unsigned desplazamiento = guia.desplazamiento;
+    const size_t bloque = size_t{real_pos} >> (desplazamiento + LOG_ENTRADAS_POR_BLOQUE);
+    if (bloque >= guia.num_bloques)
+        return false;
+    const size_t indice_al_construir =
+        size_t{real_pos} - static_cast<size_t>(int64_t{guia.elems_insertados[bloque]});
+    const size_t entrada = indice_al_construir >> desplazamiento;
     if (entrada >= guia.num_entradas)
         return false;
-    const int64_t guiada =
-        int64_t{guia.filas[entrada]} + ((int64_t{real_pos} * guia.filas_nuevas_por_indice) >> 32);
-    const int64_t ultima = static_cast<int64_t>(num_filas) - 1;
-    fila = static_cast<size_t>(guiada < 0 ? 0 : guiada > ultima ? ultima : guiada);
+    const size_t valor = guia.entradas[entrada];
+    const size_t en_la_siguiente = (indice_al_construir & guia.mascara) > (valor & guia.mascara);
+    fila = (valor >> desplazamiento) + en_la_siguiente +
+           static_cast<size_t>(int64_t{guia.filas_insertadas[entrada >> LOG_ENTRADAS_POR_BLOQUE]});
     return true;
 }
 
@@ -240,47 +261,46 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
     return false;
 }
 
-// Finds the row of a valid index without the documented search when it can: computed where rows
-// can be computed; else in the row the guide names when there is a guide, else directly when every
-// row before it is full; failing that, through arrayprv_posicion_irregular. The prefix sums
-// confirm every answer outside the computed rows; false (without a report) leaves the index, and
-// any inconsistent header, to arrayprv_posicion.
-[[gnu::always_inline]] inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos,
+// The row of a valid index outside the computed rows, without a search: the row the guide names
+// when there is a guide, else the row it would be in if every row before it were full. The prefix
+// sums confirm the answer; false (without a report) when they do not, or when the header has no
+// rows for the index.
+[[gnu::always_inline]] inline bool arrayprv_posicion_guiada(const ARRAY *array, ULONG real_pos,
                                                             posicion_array *posi)
 {
-    if (arrayprv_posicion_calculada(array, real_pos, posi))
-        return true;
-    const GuiaFilas &guia = arrayprv_guia(array);
-    const size_t num_filas = array->num_filas;
-    const size_t long_max = array->long_max_fila_en_elem;
-    if (real_pos >= array->num_elems || num_filas == 0 || long_max == 0) [[unlikely]]
+    if (real_pos >= array->num_elems) [[unlikely]]
         return false;
     size_t fila;
-    if (arrayprv_fila_guiada(guia, real_pos, num_filas, fila)) {
-        // Entries span less than a row, and inserts since the build move indices up into the
-        // rows before: the row before or the next one holds the index when the guide's row does
-        // not (chosen without a branch).
-        const size_t anterior = fila > 0 ? fila - 1 : 0;
-        const size_t siguiente = fila + 1 < num_filas ? fila + 1 : fila;
-        const size_t *const acumulado = array->acumulado_filas;
-        fila = real_pos < acumulado[fila]          ? anterior
-               : acumulado[siguiente] <= real_pos ? siguiente
-                                                  : fila;
-    } else {
+    if (!arrayprv_fila_guiada(arrayprv_guia(array), real_pos, fila)) {
+        const size_t long_max = array->long_max_fila_en_elem;
+        if (long_max == 0) [[unlikely]]
+            return false;
         // Rows of a power-of-two length (every element size but 24 bytes) divide by a shift.
         if ((long_max & (long_max - 1)) == 0) [[likely]]
             fila = real_pos >> __builtin_ctzll(long_max);
         else
             fila = real_pos / long_max;
     }
-    if (fila < num_filas) [[likely]] {
-        const size_t inicio = array->acumulado_filas[fila];
-        if (inicio <= real_pos && real_pos - inicio < array->long_filas[fila]) [[likely]] {
-            *posi = {fila, real_pos - inicio};
+    if (fila < array->num_filas) [[likely]] {
+        // Below the row's start, the difference wraps past any row length.
+        const size_t pos = real_pos - array->acumulado_filas[fila];
+        if (pos < array->long_filas[fila]) [[likely]] {
+            *posi = {fila, pos};
             return true;
         }
     }
-    return arrayprv_posicion_irregular(array, real_pos, posi);
+    return false;
+}
+
+// Finds the row of a valid index without the documented search when it can: computed where rows
+// can be computed, else guided (arrayprv_posicion_guiada), failing that through
+// arrayprv_posicion_irregular. False (without a report) leaves the index, and any inconsistent
+// header, to arrayprv_posicion.
+inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos, posicion_array *posi)
+{
+    return arrayprv_posicion_calculada(array, real_pos, posi) ||
+           arrayprv_posicion_guiada(array, real_pos, posi) ||
+           arrayprv_posicion_irregular(array, real_pos, posi);
 }
 
 // Maps `real_pos` to its row and offset; false (after the reports) when there is no such element.
@@ -359,7 +379,8 @@ inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array ti
 {
     posicion_array posi;
     if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) &&
-        arrayprv_posicion_calculada(array, real_pos, &posi)) [[likely]]
+        (arrayprv_posicion_calculada(array, real_pos, &posi) ||
+         arrayprv_posicion_guiada(array, real_pos, &posi))) [[likely]]
         return array->buffer[posi.fila] + posi.pos * arrayprv_tamanyo_rapido<TAMANYO>(array);
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }

@@ -109,7 +109,7 @@ void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento, tipo_e
         haz_sitio(array, destino);
     }
     pon_en(array, destino, elemento);
-    arrayprv_guia_tras_cambio(array);
+    arrayprv_guia_tras_cambio(array, real_pos, 1);
 }
 
 void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
@@ -121,7 +121,7 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
         return;
     arrayprv_borra_en_fila(array, &posi);
     --array->num_elems;
-    arrayprv_guia_tras_cambio(array);
+    arrayprv_guia_tras_cambio(array, real_pos, -1);
 }
 
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)

@@ -176,6 +176,7 @@ void arrayprv_inserta_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
         return;
     const size_t posteriores = array->num_filas - fila;
     arrayprv_filas_cambian_desde(array, fila);
+    arrayprv_guia_renumera_filas(array, fila < array->num_filas ? array->acumulado_filas[fila] : array->num_elems, 1);
     redimensiona_tablas(array, array->num_filas + 1);
     std::memmove(array->buffer + fila + 1, array->buffer + fila, posteriores * sizeof(char *));
     std::memmove(array->long_filas + fila + 1, array->long_filas + fila, posteriores * sizeof(size_t));
@@ -200,6 +201,7 @@ void arrayprv_borra_fila(ARRAY *array, size_t fila)
         return;
     const size_t quitados = array->long_filas[fila];
     arrayprv_filas_cambian_desde(array, fila);
+    arrayprv_guia_renumera_filas(array, array->acumulado_filas[fila] + quitados, -1);
     zarpspy_nousar_free_pp(&array->buffer[fila], 1);
     if (array->num_filas == 1) {
         libera_tablas(array);
@@ -261,6 +263,7 @@ void arrayprv_quita_filas_vacias(ARRAY *array)
         array->max_long_filas = max_long_filas;
         array->acumulado_filas = acumulado_filas;
         array->num_filas = num_filas_final;
+        arrayprv_guia_reconstruye(array);
     }
     zarpspy_nousar_free_pp(&vacias, sizeof(BOOL));
 }
@@ -291,8 +294,8 @@ void arrayprv_compacta(ARRAY *array)
             }
         }
     }
-    arrayprv_quita_filas_vacias(array);
     arrayprv_guia_olvida(array);
+    arrayprv_quita_filas_vacias(array);
     arrayprv_cuenta_filas_llenas(array);
 }
 

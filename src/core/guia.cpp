@@ -1,4 +1,5 @@
-// The guide from indices to rows: its slot beside the header, its rebuilds and its release.
+// The guide from indices to rows: its slot beside the header, its rebuilds, the counts that keep
+// it current between rebuilds, and its release.
 #include "core/guia.h"
 
 #include "services/memoria.h"
@@ -11,14 +12,33 @@ namespace {
 // Below this many rows the prediction from the average row length is as quick as a guide.
 constexpr size_t FILAS_MINIMAS = 64;
 
-// Inserts and deletes between rebuilds, counted in the indices one entry spans (before the first
-// build, in FILAS_MINIMAS indices): each change moves row boundaries by one index, so the rows
-// named stay within a few rows of the truth, which the lookup's window covers.
-constexpr size_t TRAMOS_ENTRE_RECONSTRUCCIONES = 2;
+// Inserts and deletes between rebuilds: at least this many, else one per block, so that a block
+// has seen about one change (which its own count does not cover) when the guide is rebuilt, and a
+// rebuild, which reads every row and writes every entry, costs a few entries per change.
+constexpr size_t CAMBIOS_MINIMOS = 128;
 
-// Rows added or removed between rebuilds: the lookup spreads them evenly over the indices, which
-// puts the guide's row within a few rows of the truth while they are few.
-constexpr size_t FILAS_NUEVAS_MAXIMAS = 64;
+size_t bloques_de(size_t entradas) { return (entradas + ENTRADAS_POR_BLOQUE - 1) / ENTRADAS_POR_BLOQUE; }
+
+// Makes room for `entradas` entries and their blocks, in one allocation.
+void reserva(GuiaFilas &guia, size_t entradas)
+{
+    if (entradas <= guia.capacidad)
+        return;
+    const size_t capacidad = entradas + entradas / 4;
+    const size_t bloques = capacidad / ENTRADAS_POR_BLOQUE + 1;
+    guia.elems_insertados = static_cast<int32_t *>(zarpspy_nousar_realloc(
+        guia.elems_insertados, (2 * bloques) * sizeof(int32_t) + capacidad * sizeof(uint32_t)));
+    guia.filas_insertadas = guia.elems_insertados + bloques;
+    guia.entradas = reinterpret_cast<uint32_t *>(guia.filas_insertadas + bloques);
+    guia.capacidad = capacidad;
+}
+
+// Adds `cuenta` to the counts of every block from `primero` on.
+void suma_desde(int32_t *cuentas, size_t primero, size_t num_bloques, int32_t cuenta)
+{
+    for (size_t bloque = primero; bloque < num_bloques; ++bloque)
+        cuentas[bloque] += cuenta;
+}
 
 void reconstruye(ARRAY *array, GuiaFilas &guia)
 {
@@ -27,36 +47,39 @@ void reconstruye(ARRAY *array, GuiaFilas &guia)
     guia.cambios = 0;
     if (num_filas < FILAS_MINIMAS || num_elems < num_filas) {
         guia.num_entradas = 0;
+        guia.num_bloques = 0;
         return;
     }
-    // Entries span a power of two between a quarter and a half of the average row, so most
-    // indices lie in the row their entry names or the next.
+    // Entries span a power of two between a quarter and a half of the average row.
     const unsigned log_media = static_cast<unsigned>(std::bit_width(num_elems / num_filas)) - 1;
-    guia.desplazamiento = log_media > 0 ? log_media - 1 : 0;
-    const size_t entradas = ((num_elems - 1) >> guia.desplazamiento) + 1;
-    if (entradas > guia.capacidad) {
-        const size_t capacidad = entradas + entradas / 4;
-        guia.filas = static_cast<uint32_t *>(
-            zarpspy_nousar_realloc(guia.filas, capacidad * sizeof(uint32_t)));
-        guia.capacidad = capacidad;
+    const unsigned desplazamiento = log_media > 0 ? log_media - 1 : 0;
+    const size_t tramo = size_t{1} << desplazamiento;
+    const size_t entradas = ((num_elems - 1) >> desplazamiento) + 1;
+    reserva(guia, entradas);
+    const size_t *const acumulado = array->acumulado_filas;
+    const size_t *const long_filas = array->long_filas;
+    size_t fila = 0;
+    for (size_t entrada = 0; entrada < entradas; ++entrada) {
+        const size_t indice = entrada << desplazamiento;
+        while (fila + 1 < num_filas && acumulado[fila] + long_filas[fila] <= indice)
+            ++fila;
+        const size_t hasta_la_siguiente = acumulado[fila] + long_filas[fila] - indice;
+        guia.entradas[entrada] =
+            static_cast<uint32_t>((fila << desplazamiento) | (std::clamp<size_t>(hasta_la_siguiente, 1, tramo) - 1));
     }
-    // Each row marks the first entry at or after its start (a later row starting before the
-    // same entry overwrites it: it is the one holding the entry's index); an entry no row marks
-    // lies in the row of the entry before. Without branches on the layout.
-    uint32_t *const filas = guia.filas;
-    std::fill_n(filas, entradas, uint32_t{0});
-    const size_t redondeo = (size_t{1} << guia.desplazamiento) - 1;
-    for (size_t fila = 0; fila < num_filas; ++fila) {
-        const size_t primera = (array->acumulado_filas[fila] + redondeo) >> guia.desplazamiento;
-        if (primera < entradas)
-            filas[primera] = static_cast<uint32_t>(fila);
-    }
-    for (size_t entrada = 1; entrada < entradas; ++entrada)
-        filas[entrada] = std::max(filas[entrada], filas[entrada - 1]);
+    guia.desplazamiento = desplazamiento;
+    guia.mascara = tramo - 1;
     guia.num_entradas = entradas;
-    guia.filas_al_construir = num_filas;
-    guia.elems_al_construir = num_elems;
-    guia.filas_nuevas_por_indice = 0;
+    guia.num_bloques = bloques_de(entradas);
+    std::fill_n(guia.elems_insertados, guia.num_bloques, 0);
+    std::fill_n(guia.filas_insertadas, guia.num_bloques, 0);
+}
+
+// The first block whose indices all come at or after `indice`.
+size_t primer_bloque_desde(const GuiaFilas &guia, size_t indice)
+{
+    const unsigned log_bloque = guia.desplazamiento + LOG_ENTRADAS_POR_BLOQUE;
+    return std::min(((indice - 1) >> log_bloque) + (indice > 0 ? 1 : 0), guia.num_bloques);
 }
 
 } // namespace
@@ -68,27 +91,53 @@ ARRAY *arrayprv_reserva_cabecera()
     return &cabecera->array;
 }
 
-void arrayprv_guia_tras_cambio(ARRAY *array)
+void arrayprv_guia_tras_cambio(ARRAY *array, ULONG real_pos, int32_t elems)
 {
     GuiaFilas &guia = arrayprv_guia(array);
-    const size_t tramo = guia.num_entradas > 0 ? size_t{1} << guia.desplazamiento : FILAS_MINIMAS;
-    const int64_t filas_nuevas =
-        static_cast<int64_t>(array->num_filas) - static_cast<int64_t>(guia.filas_al_construir);
-    const int64_t maximas = FILAS_NUEVAS_MAXIMAS;
-    if (++guia.cambios >= TRAMOS_ENTRE_RECONSTRUCCIONES * tramo || filas_nuevas > maximas ||
-        filas_nuevas < -maximas)
+    if (guia.num_entradas > 0) {
+        // An insert moves the elements after the new one; a delete, those from its index on.
+        const size_t movidos_desde = size_t{real_pos} + (elems > 0 ? 1 : 0);
+        suma_desde(guia.elems_insertados, primer_bloque_desde(guia, movidos_desde), guia.num_bloques, elems);
+    }
+    // The first change to an array of enough rows builds the guide at once.
+    const bool sin_guia = guia.num_entradas == 0 && array->num_filas >= FILAS_MINIMAS;
+    if (++guia.cambios >= std::max(CAMBIOS_MINIMOS, guia.num_bloques) || sin_guia)
         reconstruye(array, guia);
-    else if (guia.num_entradas > 0)
-        // At most FILAS_NUEVAS_MAXIMAS rows over the indices the entries cover: the lookup's
-        // product of an index and this stays far below 2^63.
-        guia.filas_nuevas_por_indice =
-            filas_nuevas * (int64_t{1} << 32) / static_cast<int64_t>(guia.elems_al_construir);
+}
+
+void arrayprv_guia_renumera_filas(ARRAY *array, size_t indice, int32_t filas)
+{
+    GuiaFilas &guia = arrayprv_guia(array);
+    const size_t bloque_actual = indice >> (guia.desplazamiento + LOG_ENTRADAS_POR_BLOQUE);
+    if (bloque_actual >= guia.num_bloques)
+        return; // no index the guide answers for comes after `indice`
+    // The entries that span only indices from `indice` on, taken back to the build: those of
+    // whole blocks by their count, the others one by one. The entry spanning `indice` itself
+    // stays as it was.
+    const int64_t al_construir = static_cast<int64_t>(indice) - guia.elems_insertados[bloque_actual];
+    const int64_t tramo = int64_t{1} << guia.desplazamiento;
+    const size_t primera =
+        al_construir > 0 ? static_cast<size_t>((al_construir + tramo - 1) >> guia.desplazamiento) : 0;
+    const size_t fin_de_su_bloque =
+        std::min((primera / ENTRADAS_POR_BLOQUE + 1) * ENTRADAS_POR_BLOQUE, guia.num_entradas);
+    const size_t primera_del_resto = primera % ENTRADAS_POR_BLOQUE == 0 ? primera : fin_de_su_bloque;
+    const auto paso = static_cast<uint32_t>(int64_t{filas} * tramo);
+    for (size_t entrada = primera; entrada < primera_del_resto; ++entrada)
+        guia.entradas[entrada] += paso;
+    suma_desde(guia.filas_insertadas, primera_del_resto / ENTRADAS_POR_BLOQUE, guia.num_bloques, filas);
+}
+
+void arrayprv_guia_reconstruye(ARRAY *array)
+{
+    GuiaFilas &guia = arrayprv_guia(array);
+    if (guia.num_entradas > 0)
+        reconstruye(array, guia);
 }
 
 void arrayprv_guia_olvida(ARRAY *array)
 {
     GuiaFilas &guia = arrayprv_guia(array);
-    zarpspy_nousar_free_pp(&guia.filas, sizeof(uint32_t));
+    zarpspy_nousar_free_pp(&guia.elems_insertados, sizeof(int32_t));
     guia = GuiaFilas{};
 }
 

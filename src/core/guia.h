@@ -1,10 +1,10 @@
 // What the engine keeps beside each header, outside the header's record (a reader of raw headers
 // sees the record alone), to find the row of an index: the leading full rows, whose rows are
-// computed, and a guide from indices to rows. The guide serves layouts of uneven rows, where
-// the row of an index cannot be computed: entry e names the row that held index e << desplazamiento
-// when the guide was last built. Inserts and deletes since then move row boundaries, so a lookup
-// takes the entry as a hint and confirms the row by the prefix sums; a stale entry costs time,
-// never a wrong answer. Inserts and deletes rebuild it every so often; reads only read it.
+// computed, and a guide from indices to rows (GuiaFilas in core/arrayprv.h) for layouts of uneven
+// rows. Writers keep the guide current: every insert and delete is counted in the blocks after
+// it, every row inserted or removed in the blocks and entries after it, and the guide is rebuilt
+// every so often from the prefix sums. A lookup takes its row as a hint and confirms it by the
+// prefix sums: a stale entry costs time, never a wrong answer. Reads only read it.
 #pragma once
 
 #include "core/arrayprv.h"
@@ -12,10 +12,18 @@
 // A header slot with an empty guide; the record is left for the caller to fill.
 ARRAY *arrayprv_reserva_cabecera();
 
-// Counts one insert or delete, and rebuilds the guide when enough of them may have moved its rows.
-void arrayprv_guia_tras_cambio(ARRAY *array);
+// Counts one element inserted (elems 1) or deleted (elems -1) at `real_pos`, after the change,
+// and rebuilds the guide when enough changes have gone by.
+void arrayprv_guia_tras_cambio(ARRAY *array, ULONG real_pos, int32_t elems);
 
-// Frees the guide; the next rebuild starts afresh. For changes that renumber rows wholesale.
+// Counts rows inserted (filas above 0) or removed (below 0) in front of the rows that hold the
+// indices from `indice` on. Called before the row tables change.
+void arrayprv_guia_renumera_filas(ARRAY *array, size_t indice, int32_t filas);
+
+// Rebuilds an existing guide, for changes that renumber rows wholesale.
+void arrayprv_guia_reconstruye(ARRAY *array);
+
+// Frees the guide; the next rebuild starts afresh.
 void arrayprv_guia_olvida(ARRAY *array);
 
 // Lowers the computable indices to those before row `fila`, for a change that may shorten, move

@@ -86,11 +86,13 @@ bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_ar
         return true;
     };
     if (num_filas >= VENTANA) {
-        // The window's centre: the guide's row when there is a guide (a stale entry is off by a
+        // The window's centre: the guide's row when there is a guide (a stale one is off by a
         // few rows), else the row the average row length predicts, corrected once by how many
         // elements its prefix sum is off, at the same average.
         size_t centro;
-        if (!arrayprv_fila_guiada(arrayprv_guia(array), real_pos, num_filas, centro)) {
+        if (arrayprv_fila_guiada(arrayprv_guia(array), real_pos, centro)) {
+            centro = std::min(centro, num_filas - 1);
+        } else {
             const double filas_por_elemento =
                 static_cast<double>(num_filas) / static_cast<double>(num_elems);
             const auto acotada = [&](double fila) {

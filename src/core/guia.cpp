@@ -12,10 +12,11 @@ namespace {
 // Below this many rows the prediction from the average row length is as quick as a guide.
 constexpr size_t FILAS_MINIMAS = 64;
 
-// Inserts and deletes between rebuilds: at least this many, else one per block, so that a block
-// has seen about one change (which its own count does not cover) when the guide is rebuilt, and a
-// rebuild, which reads every row and writes every entry, costs a few entries per change.
-constexpr size_t CAMBIOS_MINIMOS = 128;
+// Inserts and deletes between rebuilds: at least this many, else two per block, so that a block
+// has seen about two changes (which its own counts do not cover) when the guide is rebuilt, and a
+// rebuild, which reads every row and writes every entry, costs about 32 entries per change.
+constexpr size_t CAMBIOS_MINIMOS = 256;
+constexpr size_t CAMBIOS_POR_BLOQUE = 2;
 
 size_t bloques_de(size_t entradas) { return (entradas + ENTRADAS_POR_BLOQUE - 1) / ENTRADAS_POR_BLOQUE; }
 
@@ -58,14 +59,23 @@ void reconstruye(ARRAY *array, GuiaFilas &guia)
     reserva(guia, entradas);
     const size_t *const acumulado = array->acumulado_filas;
     const size_t *const long_filas = array->long_filas;
+    uint32_t *const valores = guia.entradas;
+    // Without branches on the layout: each row marks the first entry at or after its start (a
+    // later row starting before the same entry overwrites it, being the one that holds the
+    // entry's index); an entry no row marks lies in the row of the entry before. Then each entry
+    // takes its row's end.
+    std::fill_n(valores, entradas, uint32_t{0});
+    for (size_t fila = 0; fila < num_filas; ++fila) {
+        const size_t primera = (acumulado[fila] + tramo - 1) >> desplazamiento;
+        if (primera < entradas)
+            valores[primera] = static_cast<uint32_t>(fila);
+    }
     size_t fila = 0;
     for (size_t entrada = 0; entrada < entradas; ++entrada) {
-        const size_t indice = entrada << desplazamiento;
-        while (fila + 1 < num_filas && acumulado[fila] + long_filas[fila] <= indice)
-            ++fila;
-        const size_t hasta_la_siguiente = acumulado[fila] + long_filas[fila] - indice;
-        guia.entradas[entrada] =
-            static_cast<uint32_t>((fila << desplazamiento) | (std::clamp<size_t>(hasta_la_siguiente, 1, tramo) - 1));
+        fila = std::max<size_t>(valores[entrada], fila);
+        const size_t hasta_la_siguiente = acumulado[fila] + long_filas[fila] - (entrada << desplazamiento);
+        valores[entrada] = static_cast<uint32_t>((fila << desplazamiento) |
+                                                 (std::clamp<size_t>(hasta_la_siguiente, 1, tramo) - 1));
     }
     guia.desplazamiento = desplazamiento;
     guia.mascara = tramo - 1;
@@ -101,7 +111,7 @@ void arrayprv_guia_tras_cambio(ARRAY *array, ULONG real_pos, int32_t elems)
     }
     // The first change to an array of enough rows builds the guide at once.
     const bool sin_guia = guia.num_entradas == 0 && array->num_filas >= FILAS_MINIMAS;
-    if (++guia.cambios >= std::max(CAMBIOS_MINIMOS, guia.num_bloques) || sin_guia)
+    if (++guia.cambios >= std::max(CAMBIOS_MINIMOS, CAMBIOS_POR_BLOQUE * guia.num_bloques) || sin_guia)
         reconstruye(array, guia);
 }
 

@@ -230,7 +230,7 @@ bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_ar
 // The guide's row for `real_pos` (GuiaFilas): exact unless a change since the build fell inside
 // the index's block, or a row is shorter than an entry's span. It may lie past the last row (the
 // arithmetic is unsigned: a count below 0 wraps); false when the guide has no entry for the index.
-inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos, size_t &fila)
+[[gnu::always_inline]] inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos, size_t &fila)
 {
     const unsigned desplazamiento = guia.desplazamiento;
     const size_t bloque = size_t{real_pos} >> (desplazamiento + LOG_ENTRADAS_POR_BLOQUE);
@@ -248,12 +248,12 @@ inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos, size_t &
     return true;
 }
 
-// The row and offset of an index that lies where rows can be computed (GuiaFilas); false for any
-// other index.
+// The row and offset of an index below num_elems that lies where rows can be computed
+// (GuiaFilas); false for any other index.
 inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 {
     const GuiaFilas &guia = arrayprv_guia(array);
-    if (real_pos < guia.indices_calculables && real_pos < array->num_elems) {
+    if (real_pos < guia.indices_calculables) {
         const size_t fila = size_t{real_pos} >> guia.log_long_fila;
         *posi = {fila, real_pos - (fila << guia.log_long_fila)};
         return true;
@@ -261,15 +261,13 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
     return false;
 }
 
-// The row of a valid index outside the computed rows, without a search: the row the guide names
-// when there is a guide, else the row it would be in if every row before it were full. The prefix
-// sums confirm the answer; false (without a report) when they do not, or when the header has no
-// rows for the index.
+// The row of an index below num_elems outside the computed rows, without a search: the row the
+// guide names when there is a guide, else the row it would be in if every row before it were
+// full. The prefix sums confirm the answer; false (without a report) when they do not, or when the
+// header has no rows for the index.
 [[gnu::always_inline]] inline bool arrayprv_posicion_guiada(const ARRAY *array, ULONG real_pos,
                                                             posicion_array *posi)
 {
-    if (real_pos >= array->num_elems) [[unlikely]]
-        return false;
     size_t fila;
     if (!arrayprv_fila_guiada(arrayprv_guia(array), real_pos, fila)) {
         const size_t long_max = array->long_max_fila_en_elem;
@@ -292,14 +290,21 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
     return false;
 }
 
-// Finds the row of a valid index without the documented search when it can: computed where rows
-// can be computed, else guided (arrayprv_posicion_guiada), failing that through
-// arrayprv_posicion_irregular. False (without a report) leaves the index, and any inconsistent
-// header, to arrayprv_posicion.
+// The row and offset of an index without a search: computed, else guided; false (without a
+// report) for an index at or past num_elems, or one that neither finds.
+[[gnu::always_inline]] inline bool arrayprv_posicion_directa(const ARRAY *array, ULONG real_pos,
+                                                             posicion_array *posi)
+{
+    return real_pos < array->num_elems && (arrayprv_posicion_calculada(array, real_pos, posi) ||
+                                           arrayprv_posicion_guiada(array, real_pos, posi));
+}
+
+// Finds the row of a valid index without the documented search when it can: directly, failing
+// that through arrayprv_posicion_irregular. False (without a report) leaves the index, and any
+// inconsistent header, to arrayprv_posicion.
 inline bool arrayprv_posicion_rapida(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 {
-    return arrayprv_posicion_calculada(array, real_pos, posi) ||
-           arrayprv_posicion_guiada(array, real_pos, posi) ||
+    return arrayprv_posicion_directa(array, real_pos, posi) ||
            arrayprv_posicion_irregular(array, real_pos, posi);
 }
 
@@ -373,14 +378,14 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
 // element cannot be reached. Quickly when the array is live and of the tag and the row is found
 // without the documented search; otherwise after the full entry checks.
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
-// The same; inline where the row can be computed. TAMANYO as for arrayprv_tamanyo_rapido.
+// The same; inline where the row is found without a search (arrayprv_posicion_directa). TAMANYO
+// as for arrayprv_tamanyo_rapido.
 template <size_t TAMANYO = 0>
 inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
     if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) &&
-        (arrayprv_posicion_calculada(array, real_pos, &posi) ||
-         arrayprv_posicion_guiada(array, real_pos, &posi))) [[likely]]
+        arrayprv_posicion_directa(array, real_pos, &posi)) [[likely]]
         return array->buffer[posi.fila] + posi.pos * arrayprv_tamanyo_rapido<TAMANYO>(array);
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }
@@ -388,13 +393,14 @@ inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array ti
 // Overwrites one element; quickly as arrayprv_get_comprobado finds one.
 void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
                              tipo_elem_array tipo_elem);
-// The same; inline where the row can be computed. TAMANYO as for arrayprv_tamanyo_rapido.
+// The same; inline where the row is found without a search (arrayprv_posicion_directa). TAMANYO
+// as for arrayprv_tamanyo_rapido.
 template <size_t TAMANYO = 0>
 inline void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem)
 {
     posicion_array posi;
     if (arrayprv_vivo_e_inactivo<TAMANYO>(array, tipo_elem) &&
-        arrayprv_posicion_calculada(array, real_pos, &posi)) [[likely]] {
+        arrayprv_posicion_directa(array, real_pos, &posi)) [[likely]] {
         const size_t size_elem = arrayprv_tamanyo_rapido<TAMANYO>(array);
         std::memcpy(array->buffer[posi.fila] + posi.pos * size_elem, elemento, size_elem);
         return;

@@ -89,7 +89,7 @@ void reconstruye(ARRAY *array, GuiaFilas &guia)
 size_t primer_bloque_desde(const GuiaFilas &guia, size_t indice)
 {
     const unsigned log_bloque = guia.desplazamiento + LOG_ENTRADAS_POR_BLOQUE;
-    return std::min(((indice - 1) >> log_bloque) + (indice > 0 ? 1 : 0), guia.num_bloques);
+    return std::min((indice + (size_t{1} << log_bloque) - 1) >> log_bloque, guia.num_bloques);
 }
 
 } // namespace

@@ -129,6 +129,16 @@ TEST_F(Guia, ADeleteIsCountedInEveryBlockFromItsIndexOn)
     arr_DestruyeDouble(&array);
 }
 
+TEST_F(Guia, DeletingTheFirstElementIsCountedInEveryBlock)
+{
+    ARRAY *array = crea_recien_guiado();
+    arr_BorrarDouble(array, 0);
+    const GuiaFilas &guia = arrayprv_guia(array);
+    for (size_t bloque = 0; bloque < guia.num_bloques; ++bloque)
+        EXPECT_EQ(guia.elems_insertados[bloque], -1) << "block " << bloque;
+    arr_DestruyeDouble(&array);
+}
+
 // Inserting into a full row whose next row is full too splits it: a row is inserted after it.
 // Outside the two halves and the blocks where the change happened, every index is then found
 // in the row the guide names.

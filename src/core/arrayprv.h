@@ -83,16 +83,16 @@ inline constexpr size_t ENTRADAS_POR_BLOQUE = size_t{1} << LOG_ENTRADAS_POR_BLOQ
 struct GuiaFilas {
     size_t indices_calculables;
     unsigned log_long_fila;
-    unsigned desplazamiento; // log2 of the indices each entry spans
-    size_t mascara;          // (1 << desplazamiento) - 1
-    int32_t *elems_insertados; // per block of current indices; NULL until first built (the rest
-                               // follows in the same allocation)
-    int32_t *filas_insertadas; // per block of entries
+    unsigned desplazamiento;    // log2 of the indices each entry spans
+    size_t mascara;             // (1 << desplazamiento) - 1
+    int32_t *elems_insertados;  // per block of current indices; NULL until first built, and the
+                                // rest follows in the same allocation
+    int32_t *filas_insertadas;  // per block of entries
     uint32_t *entradas;
-    size_t num_entradas;     // entries in use; 0 while there is no guide
-    size_t num_bloques;      // blocks in use: they cover the indices below num_entradas << desplazamiento
-    size_t capacidad;        // entries allocated (and blocks, capacidad / ENTRADAS_POR_BLOQUE + 1)
-    size_t cambios;          // inserts and deletes since the guide was last built
+    size_t num_entradas;        // entries in use; 0 while there is no guide
+    size_t num_bloques;         // blocks in use: they cover the entries in use
+    size_t capacidad;           // entries allocated (and blocks, capacidad / ENTRADAS_POR_BLOQUE + 1)
+    size_t cambios;             // inserts and deletes since the guide was last built
 };
 
 // Every header slot: the record first, then what the engine keeps beside it.
@@ -230,7 +230,8 @@ bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_ar
 // The guide's row for `real_pos` (GuiaFilas): exact unless a change since the build fell inside
 // the index's block, or a row is shorter than an entry's span. It may lie past the last row (the
 // arithmetic is unsigned: a count below 0 wraps); false when the guide has no entry for the index.
-[[gnu::always_inline]] inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos, size_t &fila)
+[[gnu::always_inline]] inline bool arrayprv_fila_guiada(const GuiaFilas &guia, ULONG real_pos,
+                                                        size_t &fila)
 {
     const unsigned desplazamiento = guia.desplazamiento;
     const size_t bloque = size_t{real_pos} >> (desplazamiento + LOG_ENTRADAS_POR_BLOQUE);

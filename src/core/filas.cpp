@@ -176,7 +176,8 @@ void arrayprv_inserta_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
         return;
     const size_t posteriores = array->num_filas - fila;
     arrayprv_filas_cambian_desde(array, fila);
-    arrayprv_guia_renumera_filas(array, fila < array->num_filas ? array->acumulado_filas[fila] : array->num_elems, 1);
+    const size_t inicio = fila < array->num_filas ? array->acumulado_filas[fila] : array->num_elems;
+    arrayprv_guia_renumera_filas(array, inicio, 1);
     redimensiona_tablas(array, array->num_filas + 1);
     std::memmove(array->buffer + fila + 1, array->buffer + fila, posteriores * sizeof(char *));
     std::memmove(array->long_filas + fila + 1, array->long_filas + fila, posteriores * sizeof(size_t));

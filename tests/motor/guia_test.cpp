@@ -156,7 +156,8 @@ TEST_F(Guia, ASplitIsCountedSoThatTheGuideStaysExactAroundIt)
     ASSERT_EQ(size_t{array->num_filas}, num_filas + 1);
     const GuiaFilas &guia = arrayprv_guia(array);
     for (size_t bloque = 0; bloque < guia.num_bloques; ++bloque)
-        EXPECT_EQ(guia.filas_insertadas[bloque], primer_indice_del_bloque(guia, bloque) >= fin_de_la_fila ? 1 : 0)
+        EXPECT_EQ(guia.filas_insertadas[bloque],
+                  primer_indice_del_bloque(guia, bloque) >= fin_de_la_fila ? 1 : 0)
             << "block " << bloque;
     const std::vector<size_t> cuentas = longitudes(array);
     const size_t inicio_mitades = array->acumulado_filas[fila];
@@ -164,8 +165,8 @@ TEST_F(Guia, ASplitIsCountedSoThatTheGuideStaysExactAroundIt)
     size_t comprobados = 0;
     for (size_t i = 0; i < array->num_elems; ++i) {
         const bool en_las_mitades = inicio_mitades <= i && i < fin_mitades;
-        const bool en_un_bloque_cambiado =
-            bloque_de(guia, i) == bloque_de(guia, indice) || bloque_de(guia, i) == bloque_de(guia, fin_de_la_fila);
+        const bool en_un_bloque_cambiado = bloque_de(guia, i) == bloque_de(guia, indice) ||
+                                           bloque_de(guia, i) == bloque_de(guia, fin_de_la_fila);
         if (en_las_mitades || en_un_bloque_cambiado)
             continue;
         size_t guiada = 0;

@@ -376,8 +376,9 @@ void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento,
                       tipo_elem_array tipo_elem);
 void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
 // Address of the element inside its row, valid until the array next changes; NULL when the
-// element cannot be reached. Quickly when the array is live and of the tag and the row is found
-// without the documented search; otherwise after the full entry checks.
+// element cannot be reached. For arrayprv_get, once its direct lookup has missed: quickly when the
+// array is live and of the tag and arrayprv_posicion_irregular finds the row; otherwise after the
+// full entry checks.
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
 // The same; inline where the row is found without a search (arrayprv_posicion_directa). TAMANYO
 // as for arrayprv_tamanyo_rapido.
@@ -391,7 +392,8 @@ inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array ti
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }
 
-// Overwrites one element; quickly as arrayprv_get_comprobado finds one.
+// Overwrites one element, for arrayprv_set once its direct lookup has missed; quickly as
+// arrayprv_get_comprobado finds one.
 void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
                              tipo_elem_array tipo_elem);
 // The same; inline where the row is found without a search (arrayprv_posicion_directa). TAMANYO

@@ -41,11 +41,14 @@ void registra(const std::string &operacion, Funcion funcion, std::initializer_li
     b->Unit(benchmark::kNanosecond);
 }
 
-// Registers one benchmark template for this library and every peer in `Peers`.
+// Registers one benchmark template for this library and every peer in `Peers`, size by size: the
+// containers measured on one size run one after another, so that on a machine whose speed drifts
+// a ratio compares measurements taken close together rather than an operation's whole run apart.
 template <template <typename> class Banco, typename... Peers>
 void registra_todos(const std::string &operacion, std::initializer_list<int64_t> tamanyos)
 {
-    (registra<Peers>(operacion, Banco<Peers>::corre, tamanyos), ...);
+    for (int64_t n : tamanyos)
+        (registra<Peers>(operacion, Banco<Peers>::corre, {n}), ...);
 }
 
 #define ARR_TODOS_LOS_CONTENEDORES Arrays, Vector, Deque, BoostDeque, StableVector, Garray, Gsequence

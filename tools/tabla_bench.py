@@ -3,7 +3,9 @@
 table of ratios (this library's time divided by each peer's, on the same operation and size), one
 of bytes per element, and the output of the 4·10^9-element run when given. Benchmark names have
 the form "operation/container/size"."""
+import glob
 import json
+import os
 import platform
 import re
 import statistics
@@ -81,12 +83,13 @@ def imprime_objetivos(tiempos, bytes_por):
     print()
 
 
-def main(ruta):
-    datos = json.load(open(ruta))
+def main(carpeta):
+    # one output per benchmark process; the first one's context describes the machine
+    salidas = [json.load(open(r)) for r in sorted(glob.glob(os.path.join(carpeta, "*.json")))]
     # (operation, size) -> container -> every repetition's value; the median is reported
     muestras_tiempo = defaultdict(lambda: defaultdict(list))
     muestras_bytes = defaultdict(lambda: defaultdict(list))
-    for b in datos["benchmarks"]:
+    for b in (b for datos in salidas for b in datos["benchmarks"]):
         if b.get("run_type") == "aggregate":
             continue
         # drop the run options Google Benchmark appends, such as "iterations:1"
@@ -103,10 +106,12 @@ def main(ruta):
     repeticiones = max((len(v) for m in muestras_tiempo.values() for v in m.values()), default=0)
 
     print("# Benchmark results\n")
-    print(f"Machine: {maquina(datos.get('context', {}))}.\n")
+    print(f"Machine: {maquina(salidas[0].get('context', {}) if salidas else {})}.\n")
     print("Ratios are this library's time divided by the peer's on the same data in the same run "
-          f"(median of {repeticiones} repetitions): below 1.00 this library is faster. The C library's "
-          "allocator runs with fixed thresholds (bench/asignacion.cpp). Regenerate with `tools/bench`.\n")
+          f"(median of {repeticiones} repetitions): below 1.00 this library is faster. Each benchmark "
+          "runs in a process of its own, so that none inherits the heap another left behind; the "
+          "containers measured on one size run one after another. The C library's allocator runs "
+          "with fixed thresholds (bench/asignacion.cpp). Regenerate with `tools/bench`.\n")
     imprime_objetivos(tiempos, bytes_por)
     print("## All ratios\n")
     peers = sorted({c for v in tiempos.values() for c in v if c != "arrays"})

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Turns the benchmark program's JSON output into bench/RESULTS.md: the targets met or missed, one
-table of ratios (this library's time divided by each peer's, on the same operation and size), one
-of bytes per element, and the output of the 4·10^9-element run when given. Benchmark names have
-the form "operation/container/size"."""
+"""Turns the benchmark program's JSON outputs (a folder of them, one per process that tools/bench
+ran) into bench/RESULTS.md: the targets met or missed, one table of ratios (this library's time
+divided by each peer's, on the same operation and size), one of bytes per element, and the output
+of the 4·10^9-element run when given. Benchmark names have the form "operation/container/size"."""
 import glob
 import json
 import os

@@ -95,10 +95,38 @@ struct GuiaFilas {
     size_t cambios;             // inserts and deletes since the guide was last built
 };
 
-// Every header slot: the record first, then what the engine keeps beside it.
+// Beside the guide, for reads of arrays of uneven rows: a table straight from indices to
+// addresses (core/directa.h), built from the prefix sums once enough reads have gone by since the
+// rows last changed. Entry e covers the span of 1 << desplazamiento indices from e <<
+// desplazamiento, all of them below num_elems when it was built, over at most two rows: index i
+// of the span is at base + i * size_elem, where base is base_primera while i's offset in the span
+// is below corte and base_segunda from there on, a row's base being the address of its block less
+// its prefix sum times size_elem. An entry over more rows has both bases 0 and answers nothing.
+// Its answers are not confirmed by the prefix sums: every change that may move, free or shorten a
+// row, or shift the elements inside one, expires the table before it touches the rows. Appends
+// write only past the indices it covers, so they leave it as it is.
+struct EntradaDirecta {
+    uintptr_t base_primera;
+    uintptr_t base_segunda;
+    size_t corte;
+};
+
+struct TablaDirecta {
+    EntradaDirecta *entradas;         // NULL until first built
+    size_t num_entradas;              // entries in use; 0 while the table is expired
+    size_t capacidad;                 // entries allocated
+    unsigned desplazamiento;          // log2 of the indices each entry spans
+    size_t mascara;                   // (1 << desplazamiento) - 1
+    size_t lecturas_pendientes;       // reads without the table before the next build
+    size_t lecturas_por_construccion; // what an expiry sets lecturas_pendientes to
+};
+
+// Every header slot: the record first, then what the engine keeps beside it. Reads build the
+// direct table, hence mutable: an array belongs to one thread at a time, its reads included.
 struct CabeceraArray {
     ARRAY array;
     GuiaFilas guia;
+    mutable TablaDirecta directa;
 };
 
 inline const GuiaFilas &arrayprv_guia(const ARRAY *array)
@@ -106,6 +134,10 @@ inline const GuiaFilas &arrayprv_guia(const ARRAY *array)
     return reinterpret_cast<const CabeceraArray *>(array)->guia;
 }
 inline GuiaFilas &arrayprv_guia(ARRAY *array) { return reinterpret_cast<CabeceraArray *>(array)->guia; }
+inline TablaDirecta &arrayprv_directa(const ARRAY *array)
+{
+    return reinterpret_cast<const CabeceraArray *>(array)->directa;
+}
 
 // One element: its row and its offset in the row. Valid while fila < num_filas and
 // pos < long_filas[fila].
@@ -300,6 +332,29 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
                                            arrayprv_posicion_guiada(array, real_pos, posi));
 }
 
+// Builds the direct table from the row tables (TablaDirecta), or finds the array too small for
+// one and waits for more reads.
+void arrayprv_directa_construye(const ARRAY *array);
+
+// The address of an index below num_elems outside the computed rows, from the direct table; NULL
+// when it has no entry for the index, counting the read towards the next build while it is
+// expired.
+[[gnu::always_inline]] inline char *arrayprv_direccion_tabulada(const ARRAY *array, ULONG real_pos,
+                                                                size_t size_elem)
+{
+    TablaDirecta &tabla = arrayprv_directa(array);
+    const size_t entrada = size_t{real_pos} >> tabla.desplazamiento;
+    if (entrada < tabla.num_entradas) {
+        const EntradaDirecta &tramo = tabla.entradas[entrada];
+        const uintptr_t base = (real_pos & tabla.mascara) < tramo.corte ? tramo.base_primera
+                                                                        : tramo.base_segunda;
+        return base != 0 ? reinterpret_cast<char *>(base + size_t{real_pos} * size_elem) : nullptr;
+    }
+    if (tabla.num_entradas == 0 && tabla.lecturas_pendientes-- == 0) [[unlikely]]
+        arrayprv_directa_construye(array);
+    return nullptr;
+}
+
 // Finds the row of a valid index without the documented search when it can: directly, failing
 // that through arrayprv_posicion_irregular. False (without a report) leaves the index, and any
 // inconsistent header, to arrayprv_posicion.
@@ -375,6 +430,24 @@ inline size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_arra
 void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento,
                       tipo_elem_array tipo_elem);
 void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
+// The address of an element without a search: its row computed, else from the direct table, else
+// guided; NULL (without a report) for an index at or past num_elems, or one that none finds.
+template <size_t TAMANYO = 0>
+[[gnu::always_inline]] inline char *arrayprv_direccion_directa(const ARRAY *array, ULONG real_pos)
+{
+    const size_t size_elem = arrayprv_tamanyo_rapido<TAMANYO>(array);
+    if (real_pos >= array->num_elems)
+        return nullptr;
+    posicion_array posi;
+    if (!arrayprv_posicion_calculada(array, real_pos, &posi)) {
+        if (char *direccion = arrayprv_direccion_tabulada(array, real_pos, size_elem))
+            return direccion;
+        if (!arrayprv_posicion_guiada(array, real_pos, &posi))
+            return nullptr;
+    }
+    return array->buffer[posi.fila] + posi.pos * size_elem;
+}
+
 // Address of the element inside its row, valid until the array next changes; NULL when the
 // element cannot be reached. For arrayprv_get, once its direct lookup has missed: quickly when the
 // array is live and of the tag and arrayprv_posicion_irregular finds the row; otherwise after the
@@ -385,10 +458,10 @@ void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_arra
 template <size_t TAMANYO = 0>
 inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
-    posicion_array posi;
-    if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) &&
-        arrayprv_posicion_directa(array, real_pos, &posi)) [[likely]]
-        return array->buffer[posi.fila] + posi.pos * arrayprv_tamanyo_rapido<TAMANYO>(array);
+    if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem)) [[likely]] {
+        if (char *direccion = arrayprv_direccion_directa<TAMANYO>(array, real_pos)) [[likely]]
+            return direccion;
+    }
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }
 
@@ -401,12 +474,11 @@ void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
 template <size_t TAMANYO = 0>
 inline void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem)
 {
-    posicion_array posi;
-    if (arrayprv_vivo_e_inactivo<TAMANYO>(array, tipo_elem) &&
-        arrayprv_posicion_directa(array, real_pos, &posi)) [[likely]] {
-        const size_t size_elem = arrayprv_tamanyo_rapido<TAMANYO>(array);
-        std::memcpy(array->buffer[posi.fila] + posi.pos * size_elem, elemento, size_elem);
-        return;
+    if (arrayprv_vivo_e_inactivo<TAMANYO>(array, tipo_elem)) [[likely]] {
+        if (char *direccion = arrayprv_direccion_directa<TAMANYO>(array, real_pos)) [[likely]] {
+            std::memcpy(direccion, elemento, arrayprv_tamanyo_rapido<TAMANYO>(array));
+            return;
+        }
     }
     arrayprv_set_comprobado(array, real_pos, elemento, tipo_elem);
 }

@@ -124,6 +124,7 @@ void arrayprv_libera_filas(ARRAY *array)
     array->num_filas = 0;
     array->num_elems = 0;
     arrayprv_guia_olvida(array);
+    arrayprv_directa_olvida(array);
 }
 
 void arrayprv_destruye(ARRAY **array)

@@ -1,6 +1,8 @@
 // Row storage: the growth rule, adding, inserting and removing rows, compaction, moving runs of
 // elements between rows, and inserting or removing one element inside its row. Every operation
-// that changes a row's count fixes the prefix sums of the later rows at once.
+// that changes a row's count fixes the prefix sums of the later rows at once, and every one that
+// may move, free or shorten a row or shift elements inside one expires the direct table first
+// (core/directa.h); adding rows after the last one moves nothing.
 #include "core/arrayprv.h"
 #include "core/guia.h"
 
@@ -130,6 +132,7 @@ size_t arrayprv_incremento_fila(size_t long_actual, size_t elem_a_poner, size_t 
 
 void arrayprv_crece_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
 {
+    arrayprv_directa_caduca(array); // the block may move
     const size_t capacidad = array->max_long_filas[fila];
     const size_t incremento =
         arrayprv_incremento_fila(capacidad, elem_a_poner, array->long_max_fila_en_elem);
@@ -227,6 +230,7 @@ void arrayprv_quita_filas_vacias(ARRAY *array)
     const size_t num_filas = array->num_filas;
     if (num_filas == 0)
         return;
+    arrayprv_directa_caduca(array);
     BOOL *vacias = static_cast<BOOL *>(zarpspy_nousar_calloc(num_filas, sizeof(BOOL)));
     size_t num_filas_a_borrar = 0;
     for (size_t i = 0; i < num_filas; ++i) {
@@ -342,6 +346,7 @@ bool arrayprv_inserta_en_fila(ARRAY *array, const posicion_array *posi, const vo
     const size_t fila = posi->fila;
     if (fila >= array->num_filas || posi->pos > array->long_filas[fila])
         return false;
+    arrayprv_directa_caduca(array);
     if (array->long_filas[fila] >= array->max_long_filas[fila]) {
         ARR_EXIGE(array->long_filas[fila] == array->max_long_filas[fila],
                   "array->long_filas[posi->fila] == array->max_long_filas[posi->fila]");

@@ -51,9 +51,7 @@ void reconstruye(ARRAY *array, GuiaFilas &guia)
         guia.num_bloques = 0;
         return;
     }
-    // Entries span a power of two between a quarter and a half of the average row.
-    const unsigned log_media = static_cast<unsigned>(std::bit_width(num_elems / num_filas)) - 1;
-    const unsigned desplazamiento = log_media > 0 ? log_media - 1 : 0;
+    const unsigned desplazamiento = arrayprv_log_tramo(num_elems, num_filas);
     const size_t tramo = size_t{1} << desplazamiento;
     const size_t entradas = ((num_elems - 1) >> desplazamiento) + 1;
     reserva(guia, entradas);
@@ -98,6 +96,7 @@ ARRAY *arrayprv_reserva_cabecera()
 {
     auto *cabecera = static_cast<CabeceraArray *>(zarpspy_reserva_cabecera(sizeof(CabeceraArray)));
     cabecera->guia = GuiaFilas{};
+    cabecera->directa = TablaDirecta{};
     return &cabecera->array;
 }
 

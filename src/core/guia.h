@@ -8,6 +8,9 @@
 #pragma once
 
 #include "core/arrayprv.h"
+#include "core/directa.h"
+
+#include <bit>
 
 // A header slot with an empty guide; the record is left for the caller to fill.
 ARRAY *arrayprv_reserva_cabecera();
@@ -26,10 +29,19 @@ void arrayprv_guia_reconstruye(ARRAY *array);
 // Frees the guide; the next rebuild starts afresh.
 void arrayprv_guia_olvida(ARRAY *array);
 
-// Lowers the computable indices to those before row `fila`, for a change that may shorten, move
-// or renumber row `fila` or the rows after it.
+// log2 of the indices an entry of the guide or of the direct table spans, from the average row:
+// a power of two between a quarter and a half of it, or 1 index for rows of fewer than 4.
+inline unsigned arrayprv_log_tramo(size_t num_elems, size_t num_filas)
+{
+    const unsigned log_media = static_cast<unsigned>(std::bit_width(num_elems / num_filas)) - 1;
+    return log_media > 0 ? log_media - 1 : 0;
+}
+
+// Lowers the computable indices to those before row `fila`, and expires the direct table, for a
+// change that may shorten, move or renumber row `fila` or the rows after it.
 inline void arrayprv_filas_cambian_desde(ARRAY *array, size_t fila)
 {
+    arrayprv_directa_caduca(array);
     GuiaFilas &guia = arrayprv_guia(array);
     const size_t indices = fila << guia.log_long_fila;
     if (indices < guia.indices_calculables)

@@ -1,0 +1,19 @@
+// The direct table from indices to addresses (TablaDirecta in core/arrayprv.h): reads build it
+// once enough of them have gone by since the rows last changed, and every writer that may move,
+// free or shorten a row, or shift elements inside one, expires it first. Until it is built again
+// reads take the guided path, so that alternating writes and reads never pay for more builds than
+// the reads they speed up.
+#pragma once
+
+#include "core/arrayprv.h"
+
+// Expires the table, for a change about to move, free or shorten a row or shift elements in one.
+inline void arrayprv_directa_caduca(ARRAY *array)
+{
+    TablaDirecta &tabla = arrayprv_directa(array);
+    tabla.num_entradas = 0;
+    tabla.lecturas_pendientes = tabla.lecturas_por_construccion;
+}
+
+// Frees the table; the next build starts afresh.
+void arrayprv_directa_olvida(ARRAY *array);

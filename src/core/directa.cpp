@@ -6,9 +6,6 @@
 
 namespace {
 
-// Below this many rows the row tables stay in the nearest cache and a guided read is as quick.
-constexpr size_t FILAS_MINIMAS = 64;
-
 // Reads between two looks at an array found too small for a table.
 constexpr size_t LECTURAS_ENTRE_INTENTOS = 4096;
 
@@ -24,8 +21,9 @@ void reserva(TablaDirecta &tabla, size_t entradas)
     tabla.capacidad = capacidad;
 }
 
-// The entry for the span [primero, ultimo], whose first index lies in row `fila`: one or two rows
-// as the prefix sums place them, or no answer when the span reaches a third row.
+// The entry for the span [primero, ultimo] when its first index lies in row `fila`: one or two
+// rows as the prefix sums place them; no answer when the index is not in that row, or the span
+// reaches a third row.
 EntradaDirecta entrada_de(const ARRAY *array, size_t fila, size_t primero, size_t ultimo)
 {
     const size_t *const acumulado = array->acumulado_filas;
@@ -34,6 +32,8 @@ EntradaDirecta entrada_de(const ARRAY *array, size_t fila, size_t primero, size_
         return reinterpret_cast<uintptr_t>(array->buffer[f]) - acumulado[f] * array->size_elem;
     };
     const size_t fin = acumulado[fila] + long_filas[fila];
+    if (primero < acumulado[fila] || primero >= fin)
+        return SIN_RESPUESTA;
     if (ultimo < fin)
         return {base(fila), base(fila), ultimo - primero + 1};
     const size_t siguiente = fila + 1;
@@ -49,7 +49,7 @@ void arrayprv_directa_construye(const ARRAY *array)
     TablaDirecta &tabla = arrayprv_directa(array);
     const size_t num_filas = array->num_filas;
     const size_t num_elems = array->num_elems;
-    if (num_filas < FILAS_MINIMAS || num_elems < num_filas) {
+    if (!arrayprv_merece_guia(num_elems, num_filas)) {
         tabla.lecturas_pendientes = LECTURAS_ENTRE_INTENTOS;
         tabla.lecturas_por_construccion = LECTURAS_ENTRE_INTENTOS;
         return;
@@ -67,9 +67,7 @@ void arrayprv_directa_construye(const ARRAY *array)
         const size_t primero = entrada << desplazamiento;
         while (fila + 1 < num_filas && acumulado[fila] + long_filas[fila] <= primero)
             ++fila;
-        const bool en_la_fila = acumulado[fila] <= primero && primero < acumulado[fila] + long_filas[fila];
-        tabla.entradas[entrada] =
-            en_la_fila ? entrada_de(array, fila, primero, primero + tramo - 1) : SIN_RESPUESTA;
+        tabla.entradas[entrada] = entrada_de(array, fila, primero, primero + tramo - 1);
     }
     tabla.desplazamiento = desplazamiento;
     tabla.mascara = tramo - 1;

@@ -9,9 +9,6 @@
 
 namespace {
 
-// Below this many rows the prediction from the average row length is as quick as a guide.
-constexpr size_t FILAS_MINIMAS = 64;
-
 // Inserts and deletes between rebuilds: at least this many, else two per block, so that a block
 // has seen about two changes (which its own counts do not cover) when the guide is rebuilt, and a
 // rebuild, which reads every row and writes every entry, costs about 32 entries per change.
@@ -46,7 +43,7 @@ void reconstruye(ARRAY *array, GuiaFilas &guia)
     const size_t num_filas = array->num_filas;
     const size_t num_elems = array->num_elems;
     guia.cambios = 0;
-    if (num_filas < FILAS_MINIMAS || num_elems < num_filas) {
+    if (!arrayprv_merece_guia(num_elems, num_filas)) {
         guia.num_entradas = 0;
         guia.num_bloques = 0;
         return;
@@ -109,7 +106,7 @@ void arrayprv_guia_tras_cambio(ARRAY *array, ULONG real_pos, int32_t elems)
         suma_desde(guia.elems_insertados, primer_bloque_desde(guia, movidos_desde), guia.num_bloques, elems);
     }
     // The first change to an array of enough rows builds the guide at once.
-    const bool sin_guia = guia.num_entradas == 0 && array->num_filas >= FILAS_MINIMAS;
+    const bool sin_guia = guia.num_entradas == 0 && array->num_filas >= FILAS_MINIMAS_GUIA;
     if (++guia.cambios >= std::max(CAMBIOS_MINIMOS, CAMBIOS_POR_BLOQUE * guia.num_bloques) || sin_guia)
         reconstruye(array, guia);
 }

@@ -29,8 +29,20 @@ void arrayprv_guia_reconstruye(ARRAY *array);
 // Frees the guide; the next rebuild starts afresh.
 void arrayprv_guia_olvida(ARRAY *array);
 
+// Below this many rows the row tables stay in the nearest cache, and the prediction from the
+// average row length is as quick as the guide or the direct table: neither is built.
+inline constexpr size_t FILAS_MINIMAS_GUIA = 64;
+
+// True when an array of these counts gets a guide and a direct table: enough rows, and elements
+// for each (which arrayprv_log_tramo needs).
+inline bool arrayprv_merece_guia(size_t num_elems, size_t num_filas)
+{
+    return num_filas >= FILAS_MINIMAS_GUIA && num_elems >= num_filas;
+}
+
 // log2 of the indices an entry of the guide or of the direct table spans, from the average row:
-// a power of two between a quarter and a half of it, or 1 index for rows of fewer than 4.
+// a power of two between a quarter and a half of it, or 1 index for rows of fewer than 4. For
+// arrays that arrayprv_merece_guia accepts.
 inline unsigned arrayprv_log_tramo(size_t num_elems, size_t num_filas)
 {
     const unsigned log_media = static_cast<unsigned>(std::bit_width(num_elems / num_filas)) - 1;

@@ -37,11 +37,7 @@ void haz_sitio(ARRAY *array, posicion_array &destino)
     const size_t fila = destino.fila;
     const size_t long_max = array->long_max_fila_en_elem;
     if (fila + 1 < array->num_filas && array->long_filas[fila + 1] < long_max) {
-        const posicion_array ultimo{fila, array->long_filas[fila] - 1};
-        const posicion_array inicio_siguiente{fila + 1, 0};
-        arrayprv_inserta_en_fila(array, &inicio_siguiente,
-                                 array->buffer[fila] + ultimo.pos * array->size_elem);
-        arrayprv_borra_en_fila(array, &ultimo);
+        arrayprv_mueve_elementos(array, fila + 1, 0, fila, array->long_filas[fila] - 1, 1);
         return;
     }
     const size_t long_fila_nueva = array->long_filas[fila] / 2;

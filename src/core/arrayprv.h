@@ -113,7 +113,8 @@ struct EntradaDirecta {
 
 struct TablaDirecta {
     EntradaDirecta *entradas;         // NULL until first built
-    size_t num_entradas;              // entries in use; 0 while the table is expired
+    size_t indices_cubiertos;         // indices that the entries in use span, all below num_elems;
+                                      // 0 while the table is expired
     size_t capacidad;                 // entries allocated
     unsigned desplazamiento;          // log2 of the indices each entry spans
     size_t mascara;                   // (1 << desplazamiento) - 1
@@ -332,27 +333,31 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
                                            arrayprv_posicion_guiada(array, real_pos, posi));
 }
 
-// Builds the direct table from the row tables (TablaDirecta), or finds the array too small for
-// one and waits for more reads.
-void arrayprv_directa_construye(const ARRAY *array);
-
-// The address of an index below num_elems outside the computed rows, from the direct table; NULL
-// when it has no entry for the index, counting the read towards the next build while it is
-// expired.
+// The address of an index from the direct table; NULL when the table is expired, does not span the
+// index, or has no answer for it. An index it spans is below num_elems.
 [[gnu::always_inline]] inline char *arrayprv_direccion_tabulada(const ARRAY *array, ULONG real_pos,
                                                                 size_t size_elem)
 {
+    const TablaDirecta &tabla = arrayprv_directa(array);
+    if (real_pos >= tabla.indices_cubiertos)
+        return nullptr;
+    const EntradaDirecta &tramo = tabla.entradas[size_t{real_pos} >> tabla.desplazamiento];
+    const uintptr_t base =
+        (real_pos & tabla.mascara) < tramo.corte ? tramo.base_primera : tramo.base_segunda;
+    return base != 0 ? reinterpret_cast<char *>(base + size_t{real_pos} * size_elem) : nullptr;
+}
+
+// Builds the direct table from the row tables, or finds the array too small for one and waits for
+// more reads.
+void arrayprv_directa_construye(const ARRAY *array);
+
+// Counts a read that the direct table did not answer towards its next build while it is expired,
+// and builds it when the count runs out.
+[[gnu::always_inline]] inline void arrayprv_directa_cuenta_lectura(const ARRAY *array)
+{
     TablaDirecta &tabla = arrayprv_directa(array);
-    const size_t entrada = size_t{real_pos} >> tabla.desplazamiento;
-    if (entrada < tabla.num_entradas) {
-        const EntradaDirecta &tramo = tabla.entradas[entrada];
-        const uintptr_t base = (real_pos & tabla.mascara) < tramo.corte ? tramo.base_primera
-                                                                        : tramo.base_segunda;
-        return base != 0 ? reinterpret_cast<char *>(base + size_t{real_pos} * size_elem) : nullptr;
-    }
-    if (tabla.num_entradas == 0 && tabla.lecturas_pendientes-- == 0) [[unlikely]]
+    if (tabla.indices_cubiertos == 0 && tabla.lecturas_pendientes-- == 0) [[unlikely]]
         arrayprv_directa_construye(array);
-    return nullptr;
 }
 
 // Finds the row of a valid index without the documented search when it can: directly, failing
@@ -430,52 +435,84 @@ inline size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_arra
 void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento,
                       tipo_elem_array tipo_elem);
 void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
-// The address of an element without a search: its row computed, else from the direct table, else
-// guided; NULL (without a report) for an index at or past num_elems, or one that none finds.
+// The address of an element when one step finds it: the direct table, else its row computed; NULL
+// (without a report) for an index at or past num_elems, or one that neither answers. The table
+// goes first: an index it spans needs no other check. No call, no frame: get and set run it
+// inline and leave everything else to a function of their own.
 template <size_t TAMANYO = 0>
-[[gnu::always_inline]] inline char *arrayprv_direccion_directa(const ARRAY *array, ULONG real_pos)
+[[gnu::always_inline]] inline char *arrayprv_direccion_inmediata(const ARRAY *array, ULONG real_pos)
 {
     const size_t size_elem = arrayprv_tamanyo_rapido<TAMANYO>(array);
-    if (real_pos >= array->num_elems)
-        return nullptr;
+    if (char *direccion = arrayprv_direccion_tabulada(array, real_pos, size_elem))
+        return direccion;
     posicion_array posi;
-    if (!arrayprv_posicion_calculada(array, real_pos, &posi)) {
-        if (char *direccion = arrayprv_direccion_tabulada(array, real_pos, size_elem))
-            return direccion;
-        if (!arrayprv_posicion_guiada(array, real_pos, &posi))
-            return nullptr;
-    }
-    return array->buffer[posi.fila] + posi.pos * size_elem;
+    if (real_pos < array->num_elems && arrayprv_posicion_calculada(array, real_pos, &posi))
+        return array->buffer[posi.fila] + posi.pos * size_elem;
+    return nullptr;
+}
+
+// The same for a live array of the tag (and size); NULL for any other.
+template <size_t TAMANYO = 0>
+[[gnu::always_inline]] inline const char *arrayprv_get_inmediato(const ARRAY *array, ULONG real_pos,
+                                                                 tipo_elem_array tipo_elem)
+{
+    return arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem)
+               ? arrayprv_direccion_inmediata<TAMANYO>(array, real_pos)
+               : nullptr;
+}
+
+// The row of an index once the immediate lookup has missed: computed, else guided; false (without
+// a report) for an index at or past num_elems, or one the guide does not find. While the direct
+// table is expired, the read counts towards its next build.
+[[gnu::always_inline]] inline bool arrayprv_posicion_sin_tabla(const ARRAY *array, ULONG real_pos,
+                                                               posicion_array *posi)
+{
+    if (real_pos >= array->num_elems)
+        return false;
+    arrayprv_directa_cuenta_lectura(array);
+    return arrayprv_posicion_directa(array, real_pos, posi);
 }
 
 // Address of the element inside its row, valid until the array next changes; NULL when the
-// element cannot be reached. For arrayprv_get, once its direct lookup has missed: quickly when the
-// array is live and of the tag and arrayprv_posicion_irregular finds the row; otherwise after the
-// full entry checks.
+// element cannot be reached. For arrayprv_get once both its immediate lookup and the guide have
+// missed: quickly when the array is live and of the tag and arrayprv_posicion_irregular finds the
+// row; otherwise after the full entry checks.
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
-// The same; inline where the row is found without a search (arrayprv_posicion_directa). TAMANYO
-// as for arrayprv_tamanyo_rapido.
+
+// The same, once the immediate lookup has missed: through the guide, else as
+// arrayprv_get_comprobado. For readers that keep the immediate lookup apart, so as to run it
+// without a frame.
 template <size_t TAMANYO = 0>
-inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
+[[gnu::always_inline]] inline void *arrayprv_get_tras_inmediato(const ARRAY *array, ULONG real_pos,
+                                                                tipo_elem_array tipo_elem)
 {
-    if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem)) [[likely]] {
-        if (char *direccion = arrayprv_direccion_directa<TAMANYO>(array, real_pos)) [[likely]]
-            return direccion;
-    }
+    posicion_array posi;
+    if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) && arrayprv_posicion_sin_tabla(array, real_pos, &posi))
+        return array->buffer[posi.fila] + posi.pos * arrayprv_tamanyo_rapido<TAMANYO>(array);
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }
 
-// Overwrites one element, for arrayprv_set once its direct lookup has missed; quickly as
-// arrayprv_get_comprobado finds one.
+// The same, from the start. TAMANYO as for arrayprv_tamanyo_rapido.
+template <size_t TAMANYO = 0>
+inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
+{
+    if (const char *direccion = arrayprv_get_inmediato<TAMANYO>(array, real_pos, tipo_elem)) [[likely]]
+        return const_cast<char *>(direccion);
+    return arrayprv_get_tras_inmediato<TAMANYO>(array, real_pos, tipo_elem);
+}
+
+// Overwrites one element, for arrayprv_set once its immediate lookup has missed: through the guide
+// or arrayprv_posicion_irregular when the array is live, of the tag and idle, otherwise after the
+// full entry checks.
 void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
                              tipo_elem_array tipo_elem);
-// The same; inline where the row is found without a search (arrayprv_posicion_directa). TAMANYO
-// as for arrayprv_tamanyo_rapido.
+// The same; inline where one step finds the element (arrayprv_direccion_inmediata). TAMANYO as
+// for arrayprv_tamanyo_rapido.
 template <size_t TAMANYO = 0>
 inline void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem)
 {
     if (arrayprv_vivo_e_inactivo<TAMANYO>(array, tipo_elem)) [[likely]] {
-        if (char *direccion = arrayprv_direccion_directa<TAMANYO>(array, real_pos)) [[likely]] {
+        if (char *direccion = arrayprv_direccion_inmediata<TAMANYO>(array, real_pos)) [[likely]] {
             std::memcpy(direccion, elemento, arrayprv_tamanyo_rapido<TAMANYO>(array));
             return;
         }

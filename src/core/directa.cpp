@@ -71,7 +71,7 @@ void arrayprv_directa_construye(const ARRAY *array)
     }
     tabla.desplazamiento = desplazamiento;
     tabla.mascara = tramo - 1;
-    tabla.num_entradas = entradas;
+    tabla.indices_cubiertos = entradas << desplazamiento;
     // A build costs about 4 ns an entry; a read through the table saves 5 to 12 ns over a guided
     // one (10^6 to 10^7 doubles). Waiting after each change for half as many reads as there are
     // entries bounds what reads without the table lose by about what the build costs, however

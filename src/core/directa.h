@@ -11,7 +11,7 @@
 inline void arrayprv_directa_caduca(ARRAY *array)
 {
     TablaDirecta &tabla = arrayprv_directa(array);
-    tabla.num_entradas = 0;
+    tabla.indices_cubiertos = 0;
     tabla.lecturas_pendientes = tabla.lecturas_por_construccion;
 }
 

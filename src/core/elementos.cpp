@@ -122,8 +122,8 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
-    // The direct lookup has already missed: only the search around the guide's row is left to try
-    // before the full entry checks.
+    // The immediate lookup and the guide have already missed: only the search around the guide's
+    // row is left to try before the full entry checks.
     posicion_array posi;
     const bool rapida =
         arrayprv_vivo_de_tipo(array, tipo_elem) && arrayprv_posicion_irregular(array, real_pos, &posi);
@@ -137,10 +137,10 @@ void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_arra
 void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
                              tipo_elem_array tipo_elem)
 {
-    // As arrayprv_get_comprobado.
     posicion_array posi;
     const bool rapida = arrayprv_vivo_e_inactivo(array, tipo_elem) &&
-                        arrayprv_posicion_irregular(array, real_pos, &posi);
+                        (arrayprv_posicion_sin_tabla(array, real_pos, &posi) ||
+                         arrayprv_posicion_irregular(array, real_pos, &posi));
     if (!rapida &&
         (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::ninguno, tipo_elem) ||
          !arrayprv_posicion(array, real_pos, &posi)))

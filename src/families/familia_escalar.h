@@ -148,9 +148,17 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
 
     static void borra(ARRAY *array, ULONG pos) { arrayprv_borra(array, pos, TAG); }
 
+    // The immediate read inline, without a frame; every other read in a function of its own.
     static T get(const ARRAY *array, ULONG pos)
     {
-        const void *elemento = arrayprv_get<sizeof(T)>(array, pos, TAG);
+        if (const char *elemento = arrayprv_get_inmediato<sizeof(T)>(array, pos, TAG)) [[likely]]
+            return lee_elemento<T>(elemento);
+        return get_tras_inmediato(array, pos);
+    }
+
+    [[gnu::noinline]] static T get_tras_inmediato(const ARRAY *array, ULONG pos)
+    {
+        const void *elemento = arrayprv_get_tras_inmediato<sizeof(T)>(array, pos, TAG);
         return elemento != nullptr ? lee_elemento<T>(elemento) : T{};
     }
 

@@ -104,7 +104,9 @@ struct GuiaFilas {
 // its prefix sum times size_elem. An entry over more rows has both bases 0 and answers nothing.
 // Its answers are not confirmed by the prefix sums: every change that may move, free or shorten a
 // row, or shift the elements inside one, expires the table before it touches the rows. Appends
-// write only past the indices it covers, so they leave it as it is.
+// write only past the indices it covers, so they leave it as it is. Since every change that
+// lowers num_elems shortens a row, the indices a live table spans stay below num_elems: a read
+// that the table spans needs no other bound.
 struct EntradaDirecta {
     uintptr_t base_primera;
     uintptr_t base_segunda;

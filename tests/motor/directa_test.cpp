@@ -124,6 +124,28 @@ TEST_F(Directa, WritesThroughTheTableLandInTheirElements)
     arr_DestruyeDouble(&array);
 }
 
+// The table answers the indices it spans with no other bound; a shrink expires it, so the indices
+// it spanned past the new end are refused by their own report.
+TEST_F(Directa, AfterAShrinkIndicesTheTableSpannedPastTheEndAreReported)
+{
+    ARRAY *array = crea_doubles_en_filas(cuentas_desiguales());
+    lee_todo(array);
+    const size_t cubiertos = tabla_de(array).indices_cubiertos;
+    const auto quedan = static_cast<ULONG>(array->acumulado_filas[80]); // 80 rows: enough for a table
+    ASSERT_GT(cubiertos, size_t{quedan});
+    arr_ReduceTamanyoDouble(array, quedan);
+    EXPECT_EQ(arr_GetDouble(array, quedan), 0.0);
+    arr_SetDouble(array, static_cast<ULONG>(cubiertos - 1), 7.0);
+    EXPECT_EQ(informes(), (Textos{"real_pos < array->num_elems", "real_pos < array->num_elems"}));
+    lee_todo(array); // builds the table again, over the elements left
+    ASSERT_GT(tabla_de(array).indices_cubiertos, 0u);
+    EXPECT_LE(tabla_de(array).indices_cubiertos, size_t{quedan});
+    EXPECT_EQ(arr_GetDouble(array, static_cast<ULONG>(cubiertos - 1)), 0.0);
+    EXPECT_EQ(informes(), Textos{"real_pos < array->num_elems"});
+    EXPECT_EQ(contenido(array), numerados(1, quedan));
+    arr_DestruyeDouble(&array);
+}
+
 using Modelo = std::vector<double>;
 
 // One change made to the array and to its model, after the table has been built.

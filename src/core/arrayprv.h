@@ -489,7 +489,8 @@ template <size_t TAMANYO = 0>
                                                                 tipo_elem_array tipo_elem)
 {
     posicion_array posi;
-    if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) && arrayprv_posicion_sin_tabla(array, real_pos, &posi))
+    if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) &&
+        arrayprv_posicion_sin_tabla(array, real_pos, &posi))
         return array->buffer[posi.fila] + posi.pos * arrayprv_tamanyo_rapido<TAMANYO>(array);
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }

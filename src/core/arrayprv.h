@@ -349,19 +349,6 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
     return base != 0 ? reinterpret_cast<char *>(base + size_t{real_pos} * size_elem) : nullptr;
 }
 
-// Builds the direct table from the row tables, or finds the array too small for one and waits for
-// more reads.
-void arrayprv_directa_construye(const ARRAY *array);
-
-// Counts a read that the direct table did not answer towards its next build while it is expired,
-// and builds it when the count runs out.
-[[gnu::always_inline]] inline void arrayprv_directa_cuenta_lectura(const ARRAY *array)
-{
-    TablaDirecta &tabla = arrayprv_directa(array);
-    if (tabla.indices_cubiertos == 0 && tabla.lecturas_pendientes-- == 0) [[unlikely]]
-        arrayprv_directa_construye(array);
-}
-
 // Finds the row of a valid index without the documented search when it can: directly, failing
 // that through arrayprv_posicion_irregular. False (without a report) leaves the index, and any
 // inconsistent header, to arrayprv_posicion.
@@ -455,58 +442,31 @@ template <size_t TAMANYO = 0>
 
 // The same for a live array of the tag (and size); NULL for any other.
 template <size_t TAMANYO = 0>
-[[gnu::always_inline]] inline const char *arrayprv_get_inmediato(const ARRAY *array, ULONG real_pos,
-                                                                 tipo_elem_array tipo_elem)
+[[gnu::always_inline]] inline char *arrayprv_get_inmediato(const ARRAY *array, ULONG real_pos,
+                                                           tipo_elem_array tipo_elem)
 {
     return arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem)
                ? arrayprv_direccion_inmediata<TAMANYO>(array, real_pos)
                : nullptr;
 }
 
-// The row of an index once the immediate lookup has missed: computed, else guided; false (without
-// a report) for an index at or past num_elems, or one the guide does not find. While the direct
-// table is expired, the read counts towards its next build.
-[[gnu::always_inline]] inline bool arrayprv_posicion_sin_tabla(const ARRAY *array, ULONG real_pos,
-                                                               posicion_array *posi)
-{
-    if (real_pos >= array->num_elems)
-        return false;
-    arrayprv_directa_cuenta_lectura(array);
-    return arrayprv_posicion_directa(array, real_pos, posi);
-}
-
 // Address of the element inside its row, valid until the array next changes; NULL when the
-// element cannot be reached. For arrayprv_get once both its immediate lookup and the guide have
-// missed: quickly when the array is live and of the tag and arrayprv_posicion_irregular finds the
-// row; otherwise after the full entry checks.
+// element cannot be reached. For arrayprv_get once its immediate lookup has missed: through the
+// guide or arrayprv_posicion_irregular when the array is live and of the tag, otherwise after
+// the full entry checks.
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
-
-// The same, once the immediate lookup has missed: through the guide, else as
-// arrayprv_get_comprobado. For readers that keep the immediate lookup apart, so as to run it
-// without a frame.
-template <size_t TAMANYO = 0>
-[[gnu::always_inline]] inline void *arrayprv_get_tras_inmediato(const ARRAY *array, ULONG real_pos,
-                                                                tipo_elem_array tipo_elem)
-{
-    posicion_array posi;
-    if (arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) &&
-        arrayprv_posicion_sin_tabla(array, real_pos, &posi))
-        return array->buffer[posi.fila] + posi.pos * arrayprv_tamanyo_rapido<TAMANYO>(array);
-    return arrayprv_get_comprobado(array, real_pos, tipo_elem);
-}
-
-// The same, from the start. TAMANYO as for arrayprv_tamanyo_rapido.
+// The same; inline where one step finds the element (arrayprv_direccion_inmediata). TAMANYO as
+// for arrayprv_tamanyo_rapido.
 template <size_t TAMANYO = 0>
 inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
-    if (const char *direccion = arrayprv_get_inmediato<TAMANYO>(array, real_pos, tipo_elem)) [[likely]]
-        return const_cast<char *>(direccion);
-    return arrayprv_get_tras_inmediato<TAMANYO>(array, real_pos, tipo_elem);
+    if (char *direccion = arrayprv_get_inmediato<TAMANYO>(array, real_pos, tipo_elem)) [[likely]]
+        return direccion;
+    return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }
 
-// Overwrites one element, for arrayprv_set once its immediate lookup has missed: through the guide
-// or arrayprv_posicion_irregular when the array is live, of the tag and idle, otherwise after the
-// full entry checks.
+// Overwrites one element, for arrayprv_set once its immediate lookup has missed; as
+// arrayprv_get_comprobado finds one, the array being idle as well.
 void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
                              tipo_elem_array tipo_elem);
 // The same; inline where one step finds the element (arrayprv_direccion_inmediata). TAMANYO as

@@ -15,5 +15,18 @@ inline void arrayprv_directa_caduca(ARRAY *array)
     tabla.lecturas_pendientes = tabla.lecturas_por_construccion;
 }
 
+// Builds the direct table from the row tables, or finds the array too small for one and waits for
+// more reads.
+void arrayprv_directa_construye(const ARRAY *array);
+
+// Counts a read that the table did not answer towards its next build while it is expired,
+// and builds it when the count runs out.
+[[gnu::always_inline]] inline void arrayprv_directa_cuenta_lectura(const ARRAY *array)
+{
+    TablaDirecta &tabla = arrayprv_directa(array);
+    if (tabla.indices_cubiertos == 0 && tabla.lecturas_pendientes-- == 0) [[unlikely]]
+        arrayprv_directa_construye(array);
+}
+
 // Frees the table; the next build starts afresh.
 void arrayprv_directa_olvida(ARRAY *array);

@@ -65,6 +65,18 @@ void pon_en(ARRAY *array, const posicion_array &destino, const void *elemento)
         arrayprv_quita_filas_vacias(array);
 }
 
+// The row of an index once the immediate lookup (the direct table, computed rows) has missed:
+// computed, else guided; false (without a report) for an index at or past num_elems, or one the
+// guide does not find. While the direct table is expired, the read counts towards its next build.
+bool posicion_sin_tabla(const ARRAY *array, ULONG real_pos, posicion_array *posi)
+{
+    if (real_pos >= array->num_elems)
+        return false;
+    arrayprv_directa_cuenta_lectura(array);
+    return arrayprv_posicion_calculada(array, real_pos, posi) ||
+           arrayprv_posicion_guiada(array, real_pos, posi);
+}
+
 } // namespace
 
 size_t arrayprv_append_comprobado(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem)
@@ -122,11 +134,10 @@ void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 
 void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
-    // The immediate lookup and the guide have already missed: only the search around the guide's
-    // row is left to try before the full entry checks.
     posicion_array posi;
-    const bool rapida =
-        arrayprv_vivo_de_tipo(array, tipo_elem) && arrayprv_posicion_irregular(array, real_pos, &posi);
+    const bool rapida = arrayprv_vivo_de_tipo(array, tipo_elem) &&
+                        (posicion_sin_tabla(array, real_pos, &posi) ||
+                         arrayprv_posicion_irregular(array, real_pos, &posi));
     if (!rapida &&
         (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, false, Modo::ninguno, tipo_elem) ||
          !arrayprv_posicion(array, real_pos, &posi)))
@@ -139,7 +150,7 @@ void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
 {
     posicion_array posi;
     const bool rapida = arrayprv_vivo_e_inactivo(array, tipo_elem) &&
-                        (arrayprv_posicion_sin_tabla(array, real_pos, &posi) ||
+                        (posicion_sin_tabla(array, real_pos, &posi) ||
                          arrayprv_posicion_irregular(array, real_pos, &posi));
     if (!rapida &&
         (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::ninguno, tipo_elem) ||

@@ -153,12 +153,12 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
     {
         if (const char *elemento = arrayprv_get_inmediato<sizeof(T)>(array, pos, TAG)) [[likely]]
             return lee_elemento<T>(elemento);
-        return get_tras_inmediato(array, pos);
+        return get_comprobado(array, pos);
     }
 
-    [[gnu::noinline]] static T get_tras_inmediato(const ARRAY *array, ULONG pos)
+    [[gnu::noinline]] static T get_comprobado(const ARRAY *array, ULONG pos)
     {
-        const void *elemento = arrayprv_get_tras_inmediato<sizeof(T)>(array, pos, TAG);
+        const void *elemento = arrayprv_get_comprobado(array, pos, TAG);
         return elemento != nullptr ? lee_elemento<T>(elemento) : T{};
     }
 

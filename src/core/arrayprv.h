@@ -59,11 +59,12 @@ struct ARRAY {
 // What the engine keeps beside each header, outside the record, to find the row of an index
 // (core/guia.h). First, where rows can be computed: every row before row indices_calculables >>
 // log_long_fila holds exactly long_max_fila_en_elem = 1 << log_long_fila elements, so an index
-// below both indices_calculables and num_elems lies in row index >> log_long_fila at offset
+// below indices_calculables lies in row index >> log_long_fila at offset
 // index & (long_max_fila_en_elem - 1). Writers lower it for any change that shortens, moves or
 // renumbers a row and count it up again as rows fill; it stays 0 unless the row length is a power
-// of two. The last row counts only once full, so a count of elements that disagrees with the rows
-// is still caught by the lookups that check.
+// of two. Only full rows count, the last one included, and every change that lowers num_elems
+// shortens a row: between calls indices_calculables never exceeds num_elems, so a read of a
+// computed row needs no other bound.
 //
 // Then the guide proper, for uneven rows. When it was built, entry e described the span of
 // 1 << desplazamiento indices from e << desplazamiento: the row holding its first index, shifted
@@ -284,8 +285,8 @@ bool arrayprv_posicion_irregular(const ARRAY *array, ULONG real_pos, posicion_ar
     return true;
 }
 
-// The row and offset of an index below num_elems that lies where rows can be computed
-// (GuiaFilas); false for any other index.
+// The row and offset of an index that lies where rows can be computed (GuiaFilas), which between
+// calls makes it an index below num_elems; false for any other index.
 inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 {
     const GuiaFilas &guia = arrayprv_guia(array);
@@ -335,18 +336,19 @@ inline bool arrayprv_posicion_calculada(const ARRAY *array, ULONG real_pos, posi
                                            arrayprv_posicion_guiada(array, real_pos, posi));
 }
 
-// The address of an index from the direct table; NULL when the table is expired, does not span the
-// index, or has no answer for it. An index it spans is below num_elems.
-[[gnu::always_inline]] inline char *arrayprv_direccion_tabulada(const ARRAY *array, ULONG real_pos,
-                                                                size_t size_elem)
+// Sets *direccion to the address of an index from the direct table; false when the table is
+// expired, does not span the index, or has no answer for it. An index it spans is below num_elems.
+[[gnu::always_inline]] inline bool arrayprv_direccion_tabulada(const ARRAY *array, ULONG real_pos,
+                                                               size_t size_elem, char **direccion)
 {
     const TablaDirecta &tabla = arrayprv_directa(array);
     if (real_pos >= tabla.indices_cubiertos)
-        return nullptr;
+        return false;
     const EntradaDirecta &tramo = tabla.entradas[size_t{real_pos} >> tabla.desplazamiento];
     const uintptr_t base =
         (real_pos & tabla.mascara) < tramo.corte ? tramo.base_primera : tramo.base_segunda;
-    return base != 0 ? reinterpret_cast<char *>(base + size_t{real_pos} * size_elem) : nullptr;
+    *direccion = reinterpret_cast<char *>(base + size_t{real_pos} * size_elem);
+    return base != 0;
 }
 
 // Finds the row of a valid index without the documented search when it can: directly, failing
@@ -370,36 +372,31 @@ void *arrayprv_direccion_elemento(const ARRAY *array, const posicion_array *posi
 // ---- Elements (the bodies behind the typed append, insert, delete, get, set, ...) ----------
 
 // The element size the fast paths below copy: TAMANYO, when a caller that knows its element's
-// size at compile time gives it (the copy is then a plain store; they run only when the header
-// agrees), else the header's size.
+// size at compile time gives it (the copy is then a plain store), else the header's size. The tag
+// fixes the size (arrayprv_size_elem), so the tag's check covers the size as well.
 template <size_t TAMANYO> inline size_t arrayprv_tamanyo_rapido(const ARRAY *array)
 {
     return TAMANYO != 0 ? TAMANYO : size_t{array->size_elem};
 }
 
-// What every fast path below checks first: a live array of the tag whose elements are of TAMANYO
-// bytes, when given.
-template <size_t TAMANYO = 0>
+// What every fast path below checks first: a live array of the tag.
 inline bool arrayprv_vivo_de_tipo(const ARRAY *array, tipo_elem_array tipo_elem)
 {
-    return array != nullptr && array->mascara_debug == MASCARA_DEBUG &&
-           array->tipo_elem == tipo_elem && array->size_elem == arrayprv_tamanyo_rapido<TAMANYO>(array);
+    return array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->tipo_elem == tipo_elem;
 }
 
-// A live array of the tag (and size) that no traversal is running over: it may be written.
-template <size_t TAMANYO = 0>
+// A live array of the tag that no traversal is running over: it may be written.
 inline bool arrayprv_vivo_e_inactivo(const ARRAY *array, tipo_elem_array tipo_elem)
 {
-    return arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem) && array->en_bucle == FALSO &&
+    return arrayprv_vivo_de_tipo(array, tipo_elem) && array->en_bucle == FALSO &&
            array->en_bucle_lectura == FALSO;
 }
 
 // True when an append may store straight into the last row's room: a live idle array of the tag
-// (and of the size TAMANYO, when given) with rows, outside checking mode.
-template <size_t TAMANYO = 0>
+// with rows, outside checking mode.
 inline bool arrayprv_anyade_directo(const ARRAY *array, tipo_elem_array tipo_elem)
 {
-    return arrayprv_vivo_e_inactivo<TAMANYO>(array, tipo_elem) && array->num_filas > 0 &&
+    return arrayprv_vivo_e_inactivo(array, tipo_elem) && array->num_filas > 0 &&
            !arrayprv_es_modo_comprobacion();
 }
 
@@ -409,7 +406,7 @@ size_t arrayprv_append_comprobado(ARRAY *array, const void *elemento, tipo_elem_
 template <size_t TAMANYO = 0>
 inline size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem)
 {
-    if (arrayprv_anyade_directo<TAMANYO>(array, tipo_elem)) [[likely]] {
+    if (arrayprv_anyade_directo(array, tipo_elem)) [[likely]] {
         const size_t size_elem = arrayprv_tamanyo_rapido<TAMANYO>(array);
         const size_t ultima = array->num_filas - 1;
         size_t *const long_filas = array->long_filas;
@@ -424,30 +421,31 @@ inline size_t arrayprv_append(ARRAY *array, const void *elemento, tipo_elem_arra
 void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento,
                       tipo_elem_array tipo_elem);
 void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem);
-// The address of an element when one step finds it: the direct table, else its row computed; NULL
-// (without a report) for an index at or past num_elems, or one that neither answers. The table
-// goes first: an index it spans needs no other check. No call, no frame: get and set run it
-// inline and leave everything else to a function of their own.
+// Sets *direccion to the address of an element when one step finds it: its row computed, else the
+// direct table; false (without a report) for an index at or past num_elems, or one that neither
+// answers. Computed rows go first, and need no check against num_elems: between calls they hold
+// full rows only, all below it. No call, no frame: get and set run it inline and leave everything
+// else to a function of their own.
 template <size_t TAMANYO = 0>
-[[gnu::always_inline]] inline char *arrayprv_direccion_inmediata(const ARRAY *array, ULONG real_pos)
+[[gnu::always_inline]] inline bool arrayprv_direccion_inmediata(const ARRAY *array, ULONG real_pos,
+                                                                char **direccion)
 {
     const size_t size_elem = arrayprv_tamanyo_rapido<TAMANYO>(array);
-    if (char *direccion = arrayprv_direccion_tabulada(array, real_pos, size_elem))
-        return direccion;
     posicion_array posi;
-    if (real_pos < array->num_elems && arrayprv_posicion_calculada(array, real_pos, &posi))
-        return array->buffer[posi.fila] + posi.pos * size_elem;
-    return nullptr;
+    if (arrayprv_posicion_calculada(array, real_pos, &posi)) {
+        *direccion = array->buffer[posi.fila] + posi.pos * size_elem;
+        return true;
+    }
+    return arrayprv_direccion_tabulada(array, real_pos, size_elem, direccion);
 }
 
-// The same for a live array of the tag (and size); NULL for any other.
+// The same for a live array of the tag; false for any other.
 template <size_t TAMANYO = 0>
-[[gnu::always_inline]] inline char *arrayprv_get_inmediato(const ARRAY *array, ULONG real_pos,
-                                                           tipo_elem_array tipo_elem)
+[[gnu::always_inline]] inline bool arrayprv_get_inmediato(const ARRAY *array, ULONG real_pos,
+                                                          tipo_elem_array tipo_elem, char **direccion)
 {
-    return arrayprv_vivo_de_tipo<TAMANYO>(array, tipo_elem)
-               ? arrayprv_direccion_inmediata<TAMANYO>(array, real_pos)
-               : nullptr;
+    return arrayprv_vivo_de_tipo(array, tipo_elem) &&
+           arrayprv_direccion_inmediata<TAMANYO>(array, real_pos, direccion);
 }
 
 // Address of the element inside its row, valid until the array next changes; NULL when the
@@ -460,8 +458,8 @@ void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_arra
 template <size_t TAMANYO = 0>
 inline void *arrayprv_get(const ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
-    if (char *direccion = arrayprv_get_inmediato<TAMANYO>(array, real_pos, tipo_elem)) [[likely]]
-        return direccion;
+    if (char *direccion; arrayprv_get_inmediato<TAMANYO>(array, real_pos, tipo_elem, &direccion))
+        [[likely]] return direccion;
     return arrayprv_get_comprobado(array, real_pos, tipo_elem);
 }
 
@@ -474,8 +472,9 @@ void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
 template <size_t TAMANYO = 0>
 inline void arrayprv_set(ARRAY *array, ULONG real_pos, const void *elemento, tipo_elem_array tipo_elem)
 {
-    if (arrayprv_vivo_e_inactivo<TAMANYO>(array, tipo_elem)) [[likely]] {
-        if (char *direccion = arrayprv_direccion_inmediata<TAMANYO>(array, real_pos)) [[likely]] {
+    if (arrayprv_vivo_e_inactivo(array, tipo_elem)) [[likely]] {
+        if (char *direccion; arrayprv_direccion_inmediata<TAMANYO>(array, real_pos, &direccion))
+            [[likely]] {
             std::memcpy(direccion, elemento, arrayprv_tamanyo_rapido<TAMANYO>(array));
             return;
         }

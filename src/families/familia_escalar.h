@@ -151,7 +151,7 @@ template <tipo_elem_array TAG> struct FamiliaEscalar {
     // The immediate read inline, without a frame; every other read in a function of its own.
     static T get(const ARRAY *array, ULONG pos)
     {
-        if (const char *elemento = arrayprv_get_inmediato<sizeof(T)>(array, pos, TAG)) [[likely]]
+        if (char *elemento; arrayprv_get_inmediato<sizeof(T)>(array, pos, TAG, &elemento)) [[likely]]
             return lee_elemento<T>(elemento);
         return get_comprobado(array, pos);
     }

@@ -82,6 +82,8 @@ void comprueba_filas_calculables(const ARRAY *array)
 {
     const GuiaFilas &guia = arrayprv_guia(array);
     const size_t calculables = guia.indices_calculables;
+    const size_t num_elems = array->num_elems;
+    ASSERT_LE(calculables, num_elems);
     if (calculables == 0)
         return;
     const size_t long_max = array->long_max_fila_en_elem;

@@ -45,7 +45,7 @@ std::tuple<size_t, size_t> posicion_contada(const std::vector<size_t> &longitude
 void comprueba_todas_las_posiciones(const ARRAY *array);
 
 // Checks what the engine claims of the rows it computes (GuiaFilas::indices_calculables): every
-// row it claims is full.
+// row it claims is full, and none of them holds an index at or past num_elems.
 void comprueba_filas_calculables(const ARRAY *array);
 
 // The element at (fila, pos) read straight from its row block, even past the row's count.

@@ -125,6 +125,23 @@ TEST_F(FilasCalculables, ShrinkingKeepsOnlyTheRowsBeforeTheCut)
     arr_DestruyeDouble(&array);
 }
 
+// Reads answer computed rows with no bound of their own: every change that lowers the count
+// shortens a full row, which stops the computed rows before it, so an index past the new end is
+// refused by its report.
+TEST_F(FilasCalculables, AfterADeleteOrAShrinkIndicesPastTheEndAreReported)
+{
+    ARRAY *array = crea_doubles_anyadidos(48, FILA_DE_OCHO); // six full rows
+    arr_BorrarDouble(array, 47);
+    EXPECT_EQ(arr_GetDouble(array, 47), 0.0);
+    arr_ReduceTamanyoDouble(array, 20);
+    EXPECT_EQ(arr_GetDouble(array, 20), 0.0);
+    arr_SetDouble(array, 39, 7.0);
+    EXPECT_EQ(informes(), (Textos{"real_pos < array->num_elems", "real_pos < array->num_elems",
+                                  "real_pos < array->num_elems"}));
+    comprueba(array, numerados(1, 20));
+    arr_DestruyeDouble(&array);
+}
+
 TEST_F(FilasCalculables, GrowingCompactsAndCountsEveryRowAgain)
 {
     std::vector<double> esperado;

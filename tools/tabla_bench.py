@@ -103,15 +103,17 @@ def main(carpeta):
     mediana = lambda muestras: {c: statistics.median(v) for c, v in muestras.items()}
     tiempos = {k: mediana(v) for k, v in muestras_tiempo.items()}
     bytes_por = {k: mediana(v) for k, v in muestras_bytes.items()}
-    repeticiones = max((len(v) for m in muestras_tiempo.values() for v in m.values()), default=0)
 
     print("# Benchmark results\n")
     print(f"Machine: {maquina(salidas[0].get('context', {}) if salidas else {})}.\n")
     print("Ratios are this library's time divided by the peer's on the same data in the same run "
-          f"(median of {repeticiones} repetitions): below 1.00 this library is faster. Each benchmark "
-          "runs in a process of its own, so that none inherits the heap another left behind; the "
-          "containers measured on one size run one after another. The C library's allocator runs "
-          "with fixed thresholds (bench/asignacion.cpp). Regenerate with `tools/bench`.\n")
+          "(the median of every repetition): below 1.00 this library is faster. Each benchmark "
+          "runs in a process of its own, so that none inherits the heap another left behind, with "
+          "three repetitions; one whose process is quick (tools/bench says how quick) runs in "
+          "three processes, so that one process that lands in a slow state does not decide its "
+          "figure. The containers measured on one size run one after another. The C library's "
+          "allocator runs with fixed thresholds (bench/asignacion.cpp). Regenerate with "
+          "`tools/bench`.\n")
     imprime_objetivos(tiempos, bytes_por)
     print("## All ratios\n")
     peers = sorted({c for v in tiempos.values() for c in v if c != "arrays"})

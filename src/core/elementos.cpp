@@ -65,16 +65,16 @@ void pon_en(ARRAY *array, const posicion_array &destino, const void *elemento)
         arrayprv_quita_filas_vacias(array);
 }
 
-// The row of an index once the immediate lookup (the direct table, computed rows) has missed:
-// computed, else guided; false (without a report) for an index at or past num_elems, or one the
-// guide does not find. While the direct table is expired, the read counts towards its next build.
-bool posicion_sin_tabla(const ARRAY *array, ULONG real_pos, posicion_array *posi)
+// The row of an index once the immediate lookup (computed rows, then the direct table) has
+// missed, through the guide; false (without a report) for an index at or past num_elems, or one
+// the guide does not find. While the direct table is expired, the read counts towards its next
+// build.
+bool posicion_guiada_contada(const ARRAY *array, ULONG real_pos, posicion_array *posi)
 {
     if (real_pos >= array->num_elems)
         return false;
     arrayprv_directa_cuenta_lectura(array);
-    return arrayprv_posicion_calculada(array, real_pos, posi) ||
-           arrayprv_posicion_guiada(array, real_pos, posi);
+    return arrayprv_posicion_guiada(array, real_pos, posi);
 }
 
 } // namespace
@@ -136,7 +136,7 @@ void *arrayprv_get_comprobado(const ARRAY *array, ULONG real_pos, tipo_elem_arra
 {
     posicion_array posi;
     const bool rapida = arrayprv_vivo_de_tipo(array, tipo_elem) &&
-                        (posicion_sin_tabla(array, real_pos, &posi) ||
+                        (posicion_guiada_contada(array, real_pos, &posi) ||
                          arrayprv_posicion_irregular(array, real_pos, &posi));
     if (!rapida &&
         (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, false, Modo::ninguno, tipo_elem) ||
@@ -150,7 +150,7 @@ void arrayprv_set_comprobado(ARRAY *array, ULONG real_pos, const void *elemento,
 {
     posicion_array posi;
     const bool rapida = arrayprv_vivo_e_inactivo(array, tipo_elem) &&
-                        (posicion_sin_tabla(array, real_pos, &posi) ||
+                        (posicion_guiada_contada(array, real_pos, &posi) ||
                          arrayprv_posicion_irregular(array, real_pos, &posi));
     if (!rapida &&
         (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::ninguno, tipo_elem) ||

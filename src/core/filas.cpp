@@ -7,6 +7,7 @@
 #include "core/guia.h"
 
 #include "services/informes.h"
+#include "services/losas.h"
 #include "services/memoria.h"
 
 #include <algorithm>
@@ -111,13 +112,28 @@ size_t elementos_del_bloque(const ARRAY *array, size_t fila, size_t num_filas, s
     return ultima_no_primera ? std::max(capacidad, size_t{array->long_max_fila_en_elem}) : capacidad;
 }
 
-// A new row block of `elementos`, its first `capacidad` slots zeroed.
-char *nueva_fila(const ARRAY *array, size_t capacidad, size_t elementos)
+// Whether the block of row `fila` comes from a slab: a full row's block, in an array whose rows
+// before it have room for four of a slab's chunks. Filling a large array then takes a page fault
+// per chunk instead of one per 4 KiB, a small array never holds part of a chunk, and the unused
+// part of the last chunk is at most a quarter of what an array holds.
+constexpr size_t TROZOS_ANTES_DE_LOSAS = 4;
+
+bool fila_de_losa(const ARRAY *array, size_t fila, size_t elementos)
+{
+    const size_t bytes_fila = size_t{array->long_max_fila_en_elem} * array->size_elem;
+    return elementos == array->long_max_fila_en_elem &&
+           fila * bytes_fila >= TROZOS_ANTES_DE_LOSAS * LOSAS_BYTES_TROZO;
+}
+
+// A new block of `elementos` for row `fila`, its first `capacidad` slots zeroed.
+char *nueva_fila(const ARRAY *array, size_t fila, size_t capacidad, size_t elementos)
 {
     const size_t size_elem = array->size_elem;
-    auto *bloque = static_cast<char *>(zarpspy_nousar_malloc(elementos * size_elem));
+    const size_t bytes = elementos * size_elem;
+    void *bloque = fila_de_losa(array, fila, elementos) ? zarpspy_reserva_en_losa(bytes)
+                                                         : zarpspy_nousar_malloc(bytes);
     std::memset(bloque, 0, capacidad * size_elem);
-    return bloque;
+    return static_cast<char *>(bloque);
 }
 
 } // namespace
@@ -160,7 +176,8 @@ void arrayprv_anyade_filas(ARRAY *array, size_t num_elems_a_poner)
     for (size_t i = primera; i < primera + numfilas; ++i) {
         const bool ultima = i == primera + numfilas - 1;
         const size_t num = ultima && resto != 0 ? resto : long_max;
-        array->buffer[i] = nueva_fila(array, num, elementos_del_bloque(array, i, primera + numfilas, num));
+        array->buffer[i] =
+            nueva_fila(array, i, num, elementos_del_bloque(array, i, primera + numfilas, num));
         array->long_filas[i] = num;
         array->max_long_filas[i] = num;
         array->acumulado_filas[i] =
@@ -189,8 +206,8 @@ void arrayprv_inserta_fila(ARRAY *array, size_t fila, size_t elem_a_poner)
     std::memmove(array->acumulado_filas + fila + 1, array->acumulado_filas + fila,
                  posteriores * sizeof(size_t));
     const size_t capacidad = arrayprv_incremento_fila(0, elem_a_poner, array->long_max_fila_en_elem);
-    array->buffer[fila] =
-        nueva_fila(array, capacidad, elementos_del_bloque(array, fila, array->num_filas + 1, capacidad));
+    const size_t elementos = elementos_del_bloque(array, fila, array->num_filas + 1, capacidad);
+    array->buffer[fila] = nueva_fila(array, fila, capacidad, elementos);
     array->long_filas[fila] = 0;
     array->max_long_filas[fila] = capacidad;
     array->acumulado_filas[fila] =

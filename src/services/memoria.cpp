@@ -1,7 +1,11 @@
-// Tracked heap memory: each block carries a small prefix with its size, so that live bytes can be
-// counted without a table; header slots come from a pool that never returns memory.
+// Tracked heap memory: each block carries a small prefix with its size and where it came from (the
+// C heap or a slab), so that live bytes can be counted and the block returned without a table;
+// header slots come from a pool that never returns memory.
 #include "services/memoria.h"
 
+#include "services/losas.h"
+
+#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
@@ -10,8 +14,17 @@
 
 namespace {
 
+enum class Origen : size_t { monton, losa };
+
+struct Prefijo {
+    size_t tamanyo;
+    Origen origen;
+};
+
 // The prefix keeps the user's block aligned as malloc aligns it.
 constexpr size_t PREFIJO = alignof(std::max_align_t);
+static_assert(sizeof(Prefijo) <= PREFIJO && PREFIJO % LOSAS_ALINEACION == 0);
+static_assert(PREFIJO + ZARPSPY_MAX_BLOQUE_LOSA <= LOSAS_MAX_SLOT);
 
 std::atomic<size_t> bloques_vivos{0};
 std::atomic<size_t> bytes_vivos{0};
@@ -21,10 +34,6 @@ std::atomic<size_t> bytes_vivos{0};
     std::fprintf(stderr, "arrays: sin memoria para %zu bytes\n", tamanyo);
     std::abort();
 }
-
-void *usuario(void *base) { return static_cast<char *>(base) + PREFIJO; }
-void *base_de(void *bloque) { return static_cast<char *>(bloque) - PREFIJO; }
-size_t &tamanyo_de(void *base) { return *static_cast<size_t *>(base); }
 
 void cuenta_alta(size_t tamanyo)
 {
@@ -36,6 +45,28 @@ void cuenta_baja(size_t tamanyo)
 {
     bloques_vivos.fetch_sub(1, std::memory_order_relaxed);
     bytes_vivos.fetch_sub(tamanyo, std::memory_order_relaxed);
+}
+
+void *usuario(void *base) { return static_cast<char *>(base) + PREFIJO; }
+void *base_de(void *bloque) { return static_cast<char *>(bloque) - PREFIJO; }
+Prefijo &prefijo(void *base) { return *static_cast<Prefijo *>(base); }
+size_t &tamanyo_de(void *base) { return prefijo(base).tamanyo; }
+
+// The user part of a new block, counted from now on.
+void *estrena(void *base, size_t tamanyo, Origen origen)
+{
+    prefijo(base) = Prefijo{tamanyo, origen};
+    cuenta_alta(tamanyo);
+    return usuario(base);
+}
+
+// Returns a block to where it came from; it was counted out already.
+void devuelve(void *base)
+{
+    if (prefijo(base).origen == Origen::losa)
+        losas_libera(base);
+    else
+        std::free(base);
 }
 
 // Header slots: carved from chunks that are never freed; free slots wait in a list kept apart
@@ -87,9 +118,7 @@ void *zarpspy_nousar_malloc(size_t tamanyo)
     void *base = std::malloc(PREFIJO + tamanyo);
     if (base == nullptr)
         sin_memoria(tamanyo);
-    tamanyo_de(base) = tamanyo;
-    cuenta_alta(tamanyo);
-    return usuario(base);
+    return estrena(base, tamanyo, Origen::monton);
 }
 
 void *zarpspy_nousar_calloc(size_t num, size_t tamanyo)
@@ -100,9 +129,14 @@ void *zarpspy_nousar_calloc(size_t num, size_t tamanyo)
     void *base = std::calloc(1, PREFIJO + total);
     if (base == nullptr)
         sin_memoria(total);
-    tamanyo_de(base) = total;
-    cuenta_alta(total);
-    return usuario(base);
+    return estrena(base, total, Origen::monton);
+}
+
+void *zarpspy_reserva_en_losa(size_t tamanyo)
+{
+    if (tamanyo == 0 || tamanyo > ZARPSPY_MAX_BLOQUE_LOSA)
+        return zarpspy_nousar_malloc(tamanyo);
+    return estrena(losas_reserva(PREFIJO + tamanyo), tamanyo, Origen::losa);
 }
 
 void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo)
@@ -111,6 +145,13 @@ void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo)
         return zarpspy_nousar_malloc(tamanyo);
     void *base = base_de(bloque);
     const size_t anterior = tamanyo_de(base);
+    if (prefijo(base).origen == Origen::losa) { // a slot's size is fixed: the block moves to the heap
+        void *nuevo = zarpspy_nousar_malloc(tamanyo);
+        std::memcpy(nuevo, bloque, std::min(anterior, tamanyo));
+        cuenta_baja(anterior);
+        losas_libera(base);
+        return nuevo;
+    }
     void *nueva = std::realloc(base, PREFIJO + tamanyo);
     if (nueva == nullptr)
         sin_memoria(tamanyo);
@@ -131,7 +172,7 @@ void zarpspy_nousar_free_pp(void *puntero, size_t)
         return;
     void *base = base_de(bloque);
     cuenta_baja(tamanyo_de(base));
-    std::free(base);
+    devuelve(base);
     zarpspy_escribe_puntero(puntero, nullptr);
 }
 

@@ -10,6 +10,11 @@
 void *zarpspy_nousar_malloc(size_t tamanyo);
 void *zarpspy_nousar_calloc(size_t num, size_t tamanyo);
 void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo);
+// A block from a slab (services/losas.h) instead of the C heap, for the row blocks of large
+// arrays; blocks above ZARPSPY_MAX_BLOQUE_LOSA bytes come from the heap. It is freed, resized and
+// measured as any other block; resizing moves it to the heap.
+inline constexpr size_t ZARPSPY_MAX_BLOQUE_LOSA = 2048;
+void *zarpspy_reserva_en_losa(size_t tamanyo);
 // The size of a block of this service, as last allocated or reallocated.
 size_t zarpspy_tamanyo_bloque(const void *bloque);
 // Frees the block *puntero holds (nothing if NULL) and sets *puntero to NULL. `tamanyo_item`

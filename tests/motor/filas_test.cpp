@@ -4,6 +4,7 @@
 
 #include "core/arrayprv.h"
 #include "motor/ayudas_motor.h"
+#include "services/losas.h"
 #include "services/memoria.h"
 
 namespace {
@@ -52,6 +53,26 @@ TEST_F(Filas, AddedRowsContinueThePrefixSumsOfTheExistingRows)
     EXPECT_EQ(acumulados(array), (V{0, 3, 259}));
     EXPECT_EQ(size_t{array->num_elems}, 303u);
     arr_DestruyeDouble(&array);
+}
+
+// A slab's chunk is 2 MiB: the rows of doubles after the first 4 chunks' worth (4096 rows of 2048
+// bytes) take their blocks from a slab, each a slot of the row and the block's prefix.
+TEST_F(Filas, TheRowsOfALargeArrayPastFourChunksComeFromASlab)
+{
+    const size_t en_losas = losas_bytes_en_uso();
+    constexpr size_t FILAS_DEL_MONTON = 4 * LOSAS_BYTES_TROZO / 2048;
+    ARRAY *array = arr_CreaDouble(0);
+    for (size_t i = 0; i < FILAS_DEL_MONTON * 256; ++i)
+        arr_AppendDouble(array, static_cast<double>(i));
+    EXPECT_EQ(losas_bytes_en_uso(), en_losas);
+    for (size_t i = FILAS_DEL_MONTON * 256; i < (FILAS_DEL_MONTON + 3) * 256; ++i)
+        arr_AppendDouble(array, static_cast<double>(i));
+    arr_AppendDouble(array, -1.0); // a row of its own
+    EXPECT_EQ(losas_bytes_en_uso() - en_losas, 4 * (2048u + 16));
+    EXPECT_EQ(arr_GetDouble(array, (FILAS_DEL_MONTON + 1) * 256 + 7), (FILAS_DEL_MONTON + 1) * 256 + 7.0);
+    EXPECT_EQ(arr_GetDouble(array, (FILAS_DEL_MONTON + 3) * 256), -1.0);
+    arr_DestruyeDouble(&array);
+    EXPECT_EQ(losas_bytes_en_uso(), en_losas);
 }
 
 TEST_F(Filas, AddingRowsForNoElementIsReportedAndAddsNothing)

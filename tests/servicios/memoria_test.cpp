@@ -1,9 +1,10 @@
 // Tracked memory: every block is counted while it lives, reallocation keeps the contents, the
-// free-and-clear operation leaves the pointer NULL, and array headers come from a pool that keeps
-// a destroyed header readable.
+// free-and-clear operation leaves the pointer NULL, blocks from slabs behave as heap blocks, and
+// array headers come from a pool that keeps a destroyed header readable.
 #include "soporte/prueba_arrays.h"
 
 #include "core/arrayprv.h"
+#include "services/losas.h"
 #include "services/memoria.h"
 
 #include <cstring>
@@ -104,6 +105,47 @@ TEST_F(Memoria, FreeingThroughAnUnalignedSlotClearsIt)
     zarpspy_nousar_free_pp(celda, 1);
     EXPECT_EQ(zarpspy_lee_puntero(celda), nullptr);
     EXPECT_EQ(balance.bloques(), 0u);
+}
+
+TEST_F(Memoria, ASlabBlockIsCountedMeasuredAndFreedAsAnyBlock)
+{
+    const Balance balance;
+    const size_t en_losas = losas_bytes_en_uso();
+    void *bloque = zarpspy_reserva_en_losa(2040);
+    EXPECT_EQ(losas_bytes_en_uso() - en_losas, 2048u + 16) << "the block and its prefix";
+    EXPECT_EQ(balance.bloques(), 1u);
+    EXPECT_EQ(balance.bytes(), 2040u);
+    EXPECT_EQ(zarpspy_tamanyo_bloque(bloque), 2040u);
+    zarpspy_nousar_free_pp(&bloque, 1);
+    EXPECT_EQ(bloque, nullptr);
+    EXPECT_EQ(losas_bytes_en_uso(), en_losas);
+    EXPECT_EQ(balance.bloques(), 0u);
+    EXPECT_EQ(balance.bytes(), 0u);
+}
+
+TEST_F(Memoria, ReallocMovesASlabBlockToTheHeapWithItsContents)
+{
+    const Balance balance;
+    const size_t en_losas = losas_bytes_en_uso();
+    char *bloque = static_cast<char *>(zarpspy_reserva_en_losa(2048));
+    std::memset(bloque, 'x', 2048);
+    bloque = static_cast<char *>(zarpspy_nousar_realloc(bloque, 4096));
+    EXPECT_EQ(losas_bytes_en_uso(), en_losas);
+    EXPECT_EQ(bloque[0], 'x');
+    EXPECT_EQ(bloque[2047], 'x');
+    EXPECT_EQ(balance.bloques(), 1u);
+    EXPECT_EQ(balance.bytes(), 4096u);
+    zarpspy_nousar_free_pp(&bloque, 1);
+    EXPECT_EQ(balance.bloques(), 0u);
+}
+
+TEST_F(Memoria, ABlockLargerThanASlabSlotComesFromTheHeap)
+{
+    const size_t en_losas = losas_bytes_en_uso();
+    void *bloque = zarpspy_reserva_en_losa(ZARPSPY_MAX_BLOQUE_LOSA + 1);
+    EXPECT_EQ(losas_bytes_en_uso(), en_losas);
+    EXPECT_EQ(zarpspy_tamanyo_bloque(bloque), ZARPSPY_MAX_BLOQUE_LOSA + 1);
+    zarpspy_nousar_free_pp(&bloque, 1);
 }
 
 TEST_F(Memoria, HeaderSlotIsCountedUntilReturnedToThePool)

@@ -1,6 +1,10 @@
-// Bytes of heap per element, after n appends and after 10^5 random inserts, measured with the C
-// library's own count of bytes in use (the same meter for every container).
+// Bytes per element, after n appends and after 10^5 random inserts, by two meters applied to
+// every container alike: the bytes handed out (the C library's count of bytes in use, plus the
+// slots this library's slabs hand out), and the bytes taken from the system for them (the same,
+// with the slabs' chunks counted whole, free slots included).
 #include "comun.h"
+
+#include "services/losas.h"
 
 #include <malloc.h>
 
@@ -9,11 +13,14 @@ namespace {
 constexpr size_t INSERCIONES = 100000;
 
 // Bytes handed out by malloc, counting the large blocks it maps on their own.
-size_t bytes_en_uso()
+size_t bytes_de_malloc()
 {
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
 }
+
+size_t bytes_en_uso() { return bytes_de_malloc() + losas_bytes_en_uso(); }
+size_t bytes_mapeados() { return bytes_de_malloc() + losas_bytes_mapeados(); }
 
 template <typename C, bool con_inserciones> void bytes_por_elemento(benchmark::State &estado)
 {
@@ -21,6 +28,7 @@ template <typename C, bool con_inserciones> void bytes_por_elemento(benchmark::S
     for (auto _ : estado) {
         malloc_trim(0);
         const size_t antes = bytes_en_uso();
+        const size_t antes_mapeados = bytes_mapeados();
         const size_t anyadidos = con_inserciones ? n - INSERCIONES : n;
         C c(0);
         for (size_t i = 0; i < anyadidos; ++i)
@@ -28,9 +36,11 @@ template <typename C, bool con_inserciones> void bytes_por_elemento(benchmark::S
         if constexpr (con_inserciones)
             for (size_t p : posiciones_aleatorias(INSERCIONES, anyadidos, 3))
                 c.inserta(p, 1.0);
-        const size_t despues = bytes_en_uso();
-        estado.counters["bytes_per_element"] =
-            static_cast<double>(despues - antes) / static_cast<double>(c.tamanyo());
+        const auto por_elemento = [&](size_t bytes) {
+            return static_cast<double>(bytes) / static_cast<double>(c.tamanyo());
+        };
+        estado.counters["bytes_per_element"] = por_elemento(bytes_en_uso() - antes);
+        estado.counters["mapped_bytes_per_element"] = por_elemento(bytes_mapeados() - antes_mapeados);
     }
 }
 

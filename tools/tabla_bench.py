@@ -98,6 +98,8 @@ def main(carpeta):
         clave = (operacion, int(tamanyo))
         if "bytes_per_element" in b:
             muestras_bytes[clave][contenedor].append(b["bytes_per_element"])
+            muestras_bytes[(operacion + ", mapped", int(tamanyo))][contenedor].append(
+                b["mapped_bytes_per_element"])
         else:
             muestras_tiempo[clave][contenedor].append(b["real_time"])
     mediana = lambda muestras: {c: statistics.median(v) for c, v in muestras.items()}
@@ -126,6 +128,9 @@ def main(carpeta):
         print(f"| {operacion} | {tamanyo:,} | " + " | ".join(celdas) + " |")
     if bytes_por:
         print("\n## Bytes per element\n")
+        print("Bytes handed out to the container (the C library's bytes in use, and the slots this "
+              "library's slabs hand out) per element; \"mapped\" counts the slabs' chunks whole, "
+              "their free slots included. The targets use the first.\n")
         contenedores = sorted({c for v in bytes_por.values() for c in v})
         print("| measure | size | " + " | ".join(contenedores) + " |")
         print("|---|---:|" + "---:|" * len(contenedores))

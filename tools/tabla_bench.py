@@ -112,8 +112,8 @@ def main(carpeta):
           "(the median of every repetition): below 1.00 this library is faster. Each benchmark "
           "runs in a process of its own, so that none inherits the heap another left behind, pinned "
           "to one CPU, with three repetitions; one whose process is quick (tools/bench says how "
-          "quick) runs in three processes, so that one process that lands in a slow state does not "
-          "decide its figure. The containers measured on one size run one after another. The C library's "
+          "quick) runs in three processes, in three passes over the suite, so that neither one process "
+          "that lands in a slow state nor a slow spell of the machine decides its figure. The containers measured on one size run one after another. The C library's "
           "allocator runs with fixed thresholds (bench/asignacion.cpp). Regenerate with "
           "`tools/bench`.\n")
     imprime_objetivos(tiempos, bytes_por)

@@ -93,7 +93,8 @@ def main(carpeta):
         if b.get("run_type") == "aggregate":
             continue
         # drop the run options Google Benchmark appends, such as "iterations:1"
-        partes = [p for p in b["name"].split("/") if not re.match(r"(iterations|min_time|repeats|threads):", p)]
+        opcion = r"(iterations|min_time|repeats|threads):"
+        partes = [p for p in b["name"].split("/") if not re.match(opcion, p)]
         operacion, contenedor, tamanyo = partes
         clave = (operacion, int(tamanyo))
         if "bytes_per_element" in b:
@@ -112,10 +113,10 @@ def main(carpeta):
           "(the median of every repetition): below 1.00 this library is faster. Each benchmark "
           "runs in a process of its own, so that none inherits the heap another left behind, pinned "
           "to one CPU, with three repetitions; one whose process is quick (tools/bench says how "
-          "quick) runs in three processes, in three passes over the suite, so that neither one process "
-          "that lands in a slow state nor a slow spell of the machine decides its figure. The containers measured on one size run one after another. The C library's "
-          "allocator runs with fixed thresholds (bench/asignacion.cpp). Regenerate with "
-          "`tools/bench`.\n")
+          "quick) runs in three processes, in three passes over the suite, so that neither one "
+          "process that lands in a slow state nor a slow spell of the machine decides its figure. "
+          "The C library's allocator runs with fixed thresholds (bench/asignacion.cpp). "
+          "Regenerate with `tools/bench`.\n")
     imprime_objetivos(tiempos, bytes_por)
     print("## All ratios\n")
     peers = sorted({c for v in tiempos.values() for c in v if c != "arrays"})

@@ -9,7 +9,6 @@
 #include <sys/mman.h>
 
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <mutex>
 
@@ -34,14 +33,27 @@ struct Clase {
     size_t vacios = 0;
 };
 
-constexpr size_t INICIO_SLOTS = (sizeof(Trozo) + LOSAS_ALINEACION - 1) / LOSAS_ALINEACION * LOSAS_ALINEACION;
+// Bytes rounded up to a multiple of the alignment.
+constexpr size_t alineado(size_t bytes)
+{
+    return (bytes + LOSAS_ALINEACION - 1) / LOSAS_ALINEACION * LOSAS_ALINEACION;
+}
+
+constexpr size_t INICIO_SLOTS = alineado(sizeof(Trozo));
 constexpr size_t NUM_CLASES = LOSAS_MAX_SLOT / LOSAS_ALINEACION + 1;
 
+// Class i hands out slots of i times the alignment.
 struct Losas {
     std::mutex cerrojo;
     Clase clases[NUM_CLASES];
     size_t bytes_en_uso = 0;
     size_t bytes_mapeados = 0;
+
+    Losas()
+    {
+        for (size_t i = 0; i < NUM_CLASES; ++i)
+            clases[i].slot = i * LOSAS_ALINEACION;
+    }
 };
 
 Losas &losas()
@@ -50,19 +62,14 @@ Losas &losas()
     return *unicas;
 }
 
-[[noreturn]] void sin_memoria()
-{
-    std::fprintf(stderr, "arrays: sin memoria para %zu bytes\n", LOSAS_BYTES_TROZO);
-    std::abort();
-}
-
-// A chunk-sized mapping aligned to its size: twice the size is mapped and the ends are cut off.
+// A chunk-sized mapping aligned to its size (twice the size is mapped and the ends are cut off);
+// NULL when the system has no memory for it.
 void *mapea_trozo()
 {
     const size_t doble = 2 * LOSAS_BYTES_TROZO;
     void *zona = mmap(nullptr, doble, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (zona == MAP_FAILED)
-        sin_memoria();
+        return nullptr;
     const auto inicio = reinterpret_cast<uintptr_t>(zona);
     const uintptr_t alineado = (inicio + LOSAS_BYTES_TROZO - 1) & ~(LOSAS_BYTES_TROZO - 1);
     if (alineado > inicio)
@@ -100,9 +107,12 @@ void desenlaza(Clase &clase, Trozo *trozo)
         trozo->siguiente->anterior = trozo->anterior;
 }
 
+// A new chunk for the class, in its list; NULL when the system has no memory for it.
 Trozo *nuevo_trozo(Losas &l, Clase &clase)
 {
     auto *trozo = static_cast<Trozo *>(mapea_trozo());
+    if (trozo == nullptr)
+        return nullptr;
     char *base = reinterpret_cast<char *>(trozo);
     const size_t slots = (LOSAS_BYTES_TROZO - INICIO_SLOTS) / clase.slot;
     *trozo = Trozo{&clase, nullptr, nullptr, nullptr, base + INICIO_SLOTS,
@@ -140,10 +150,10 @@ void *losas_reserva(size_t bytes)
         std::abort();
     Losas &l = losas();
     std::lock_guard<std::mutex> guarda(l.cerrojo);
-    Clase &clase = l.clases[(bytes + LOSAS_ALINEACION - 1) / LOSAS_ALINEACION];
-    if (clase.slot == 0)
-        clase.slot = (bytes + LOSAS_ALINEACION - 1) / LOSAS_ALINEACION * LOSAS_ALINEACION;
+    Clase &clase = l.clases[alineado(bytes) / LOSAS_ALINEACION];
     Trozo *trozo = clase.con_sitio != nullptr ? clase.con_sitio : nuevo_trozo(l, clase);
+    if (trozo == nullptr)
+        return nullptr;
     void *slot = saca_slot(trozo);
     if (trozo->vivos++ == 0)
         --clase.vacios;

@@ -16,7 +16,7 @@ inline constexpr size_t LOSAS_MAX_SLOT = 2048 + 16;
 inline constexpr size_t LOSAS_ALINEACION = 16;
 
 // A slot of at least `bytes` bytes (1..LOSAS_MAX_SLOT), aligned to LOSAS_ALINEACION, contents
-// undefined; stops the program when no memory is left.
+// undefined; NULL, as malloc, when the system has no memory for a new chunk.
 void *losas_reserva(size_t bytes);
 // Returns a slot that losas_reserva gave.
 void losas_libera(void *slot);

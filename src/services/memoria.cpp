@@ -136,7 +136,10 @@ void *zarpspy_reserva_en_losa(size_t tamanyo)
 {
     if (tamanyo == 0 || tamanyo > ZARPSPY_MAX_BLOQUE_LOSA)
         return zarpspy_nousar_malloc(tamanyo);
-    return estrena(losas_reserva(PREFIJO + tamanyo), tamanyo, Origen::losa);
+    void *base = losas_reserva(PREFIJO + tamanyo);
+    if (base == nullptr)
+        sin_memoria(tamanyo);
+    return estrena(base, tamanyo, Origen::losa);
 }
 
 void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo)
@@ -148,8 +151,7 @@ void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo)
     if (prefijo(base).origen == Origen::losa) { // a slot's size is fixed: the block moves to the heap
         void *nuevo = zarpspy_nousar_malloc(tamanyo);
         std::memcpy(nuevo, bloque, std::min(anterior, tamanyo));
-        cuenta_baja(anterior);
-        losas_libera(base);
+        zarpspy_nousar_free_pp(&bloque, 1);
         return nuevo;
     }
     void *nueva = std::realloc(base, PREFIJO + tamanyo);

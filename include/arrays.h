@@ -1003,6 +1003,69 @@ ARRAYS_API void arr_EliminarPuntosContiguosRepetidosPunto2D(ARRAY *array,
 ARRAYS_API void arr_eliminar_contenidos_entre_dos_puntos_polilinea_Punto2D(
     ARRAY *array, SHORT cerrada, double tolerancia) ARR_NOEXCEPT;
 
+/* ---- Looking into arrays from outside: the debug dump and shared-memory publishing -------- */
+/* For single-threaded debugging use: the module's buffers and tables are shared by every caller
+ * and nothing is locked. A handle that is NULL, destroyed or points into memory that cannot be
+ * read never faults here: each function reads the handle through a probe first, then asks
+ * arryprv_es_array_correcto. Bit arrays are refused by that query, so the queries give them the
+ * answers of an invalid array; their dump is the header line (with the count of bits) and
+ * "\r\nTipo de array no implementado.\r\n". The narrow texts are Windows-1252 bytes (the
+ * accented letters of "direcci\xF3n no v\xE1lida" are the bytes 0xE1 and 0xF3). */
+
+/* Replaces the sinks of the debugger output: `estrecha` receives every narrow text, `ancha` the
+ * lines of wide string elements (UTF-16). NULL restores a default: on Windows
+ * OutputDebugStringA / OutputDebugStringW, elsewhere standard error in UTF-8 (a narrow text that
+ * is valid UTF-8 as it is, any other converted from Windows-1252). */
+ARRAYS_API void debugarr_set_salida(void (*estrecha)(const char *texto),
+                                    void (*ancha)(const WCHAR *texto)) ARR_NOEXCEPT;
+
+/* Lists `array` on the debugger output: "\r\nArray de N elementos:\r\n", then one text per
+ * element: "[i]: value\r\n" with i counted from 1 (BYTE, UChar and Char as 0 to 255, BOOL as
+ * CIERTO or FALSO, doubles with six decimals, strings between double quotes through the wide sink
+ * for wide strings), 2D points as "[%2d]: \tx=..., \ty=...\r\n" counted from 0, 3D points with
+ * z as well and counted from 1; lines longer than 65,535 characters are cut. Typed pointer (and
+ * bit) arrays print "\r\nTipo de array no implementado.\r\n" after the header line. A NULL
+ * handle prints "\r\nArray es NULL.\r\n", an unreadable one "\r\nArray con direcci\xF3n no
+ * v\xE1lida.\r\n"; any other handle that is not a live array prints nothing. */
+ARRAYS_API void debugarr_outputDebug(const ARRAY *array) ARR_NOEXCEPT;
+
+/* Publishes a copy of `array`'s elements in the named shared-memory block
+ * "MemComp_ZarpTools_debugarr_<identificador>" (the identifier printed as a signed 32-bit
+ * number), for another process to open: 4 bytes with the number of data bytes, 4 bytes with
+ * the element size (both little-endian), then the elements one after another (string elements
+ * as the pointers of this process; 2D points with private data as the scratch buffer held). On
+ * POSIX the block is the shared-memory object "/MemComp_ZarpTools_debugarr_<identificador>",
+ * mode 0600; a name that exists and is not a regular object of this user is refused. The block
+ * takes the next of 100 slots in turn; a slot taken again leaves the block it held published
+ * until the process ends. Messages as for debugarr_outputDebug; an invalid array, an empty
+ * array before any copy was made, a copy above 4 GiB or a block that cannot be made publish
+ * nothing, silently. */
+ARRAYS_API void debugarr_ini_serializa(const ARRAY *array, ULONG identificador) ARR_NOEXCEPT;
+
+/* Closes the block published under `identificador` (the first slot that holds it) and takes its
+ * name away unless another published block shares it. 0 when no slot holds the identifier;
+ * otherwise a value that carries no further meaning. */
+ARRAYS_API int debugarr_fin_serializa(ULONG identificador) ARR_NOEXCEPT;
+
+/* Writes the element count of `array` into the 12-byte block
+ * "MemComp_ZarpTools_serializa_num_elems" (count, 0, 0), made at the first use and kept for the
+ * life of the process. An array that is not valid writes 0xFFFFFFFF and prints "\r\nArray
+ * acadorde no v\xE1lido.\r\n"; NULL prints "\r\nArray acadorde es NULL.\r\n"; a block that
+ * cannot be made prints "\r\n(debugarr) Error en memoria compartida
+ * 'MemComp_ZarpTools_serializa_num_elems'.\r\n". */
+ARRAYS_API void debugarr_serializa_num_elems_array(const ARRAY *array) ARR_NOEXCEPT;
+
+/* The elements of `array` one after another in the module's scratch buffer, which stays valid
+ * until the buffer has grown twice more; NULL for an array that is not valid, and for an empty
+ * array while no buffer was ever made. */
+ARRAYS_API void *debugarr_elems(const ARRAY *array) ARR_NOEXCEPT;
+
+/* The element count of `array`; 0 when it is not valid. */
+ARRAYS_API ULONG debugarr_num_elems(const ARRAY *array) ARR_NOEXCEPT;
+
+/* The element type tag of `array`; 0xFFFFFFFF when it is not valid. */
+ARRAYS_API ULONG debugarr_tipo_array(const ARRAY *array) ARR_NOEXCEPT;
+
 #ifdef __cplusplus
 }
 #endif

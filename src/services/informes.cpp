@@ -2,13 +2,13 @@
 // (and aborts when ARRAYS_ABORTAR exists), and a process-wide counter of reports.
 #include "services/informes.h"
 
+#include "services/codificaciones.h"
+
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
 #include <string>
-
-#include <unicode/ustring.h>
 
 namespace {
 
@@ -49,18 +49,6 @@ void informa(const arr_informe &informe)
     actual.manejador(&informe, actual.contexto);
 }
 
-// The UTF-8 form of a zero-terminated UTF-16 text (ill-formed units become U+FFFD).
-std::string a_utf8(const WCHAR *texto)
-{
-    UErrorCode estado = U_ZERO_ERROR;
-    int32_t longitud = 0;
-    u_strToUTF8WithSub(nullptr, 0, &longitud, texto, -1, 0xFFFD, nullptr, &estado);
-    std::string utf8(static_cast<size_t>(longitud), '\0');
-    estado = U_ZERO_ERROR;
-    u_strToUTF8WithSub(utf8.data(), longitud, nullptr, texto, -1, 0xFFFD, nullptr, &estado);
-    return utf8;
-}
-
 } // namespace
 
 void error_interno(const char *expresion, const char *ubicacion, LONG linea, int)
@@ -71,7 +59,7 @@ void error_interno(const char *expresion, const char *ubicacion, LONG linea, int
 void error_interno_origen(const WCHAR *expresion, const char *ubicacion, LONG linea,
                           const char *ubicacion_origen, LONG linea_origen, int)
 {
-    const std::string texto = a_utf8(expresion);
+    const std::string texto = utf16_a_utf8(expresion);
     informa({ARR_INFORME_ORIGEN, texto.c_str(), ubicacion, linea,
              ubicacion_origen != nullptr ? ubicacion_origen : "", linea_origen});
 }

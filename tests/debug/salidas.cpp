@@ -1,0 +1,108 @@
+// Capturing sinks and shared-memory readers for the debug module's tests.
+#include "debug/salidas.h"
+
+#include "services/codificaciones.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cinttypes>
+#include <cstdio>
+#include <cstdlib>
+#include <ostream>
+
+namespace {
+
+Salidas capturadas;
+
+void captura_estrecha(const char *texto) { capturadas.push_back({false, texto}); }
+void captura_ancha(const WCHAR *texto) { capturadas.push_back({true, utf16_a_utf8(texto)}); }
+
+} // namespace
+
+void PrintTo(const TextoSalida &texto, std::ostream *os)
+{
+    *os << (texto.ancho ? "wide " : "narrow ") << ::testing::PrintToString(texto.texto);
+}
+
+Salidas estrechos(const std::vector<std::string> &textos)
+{
+    Salidas salidas;
+    for (const std::string &texto : textos)
+        salidas.push_back({false, texto});
+    return salidas;
+}
+
+void PruebaDebug::SetUp()
+{
+    PruebaArrays::SetUp();
+    capturadas.clear();
+    debugarr_set_salida(captura_estrecha, captura_ancha);
+}
+
+void PruebaDebug::TearDown()
+{
+    debugarr_set_salida(nullptr, nullptr);
+    EXPECT_EQ(capturadas, Salidas{}) << "texts that the test did not check";
+    PruebaArrays::TearDown();
+}
+
+Salidas PruebaDebug::salidas()
+{
+    Salidas tomadas;
+    tomadas.swap(capturadas);
+    return tomadas;
+}
+
+ULONG PruebaDebug::identificador(ULONG n)
+{
+    // The base is the first process's id, handed down through the environment, so that a test's
+    // new process (en_proceso_nuevo) names the same blocks as the test itself.
+    static const ULONG base = [] {
+        const char *heredada = std::getenv("ARRAYS_PRUEBA_DEBUG_BASE");
+        if (heredada != nullptr)
+            return static_cast<ULONG>(std::strtoul(heredada, nullptr, 10));
+        const ULONG propia = static_cast<ULONG>(getpid());
+        setenv("ARRAYS_PRUEBA_DEBUG_BASE", std::to_string(propia).c_str(), 1);
+        return propia;
+    }();
+    return base * 1000 + n;
+}
+
+std::string nombre_bloque(ULONG identificador)
+{
+    char nombre[64];
+    std::snprintf(nombre, sizeof nombre, "MemComp_ZarpTools_debugarr_%" PRId32,
+                  static_cast<int32_t>(identificador));
+    return nombre;
+}
+
+bool existe_en_dev_shm(const std::string &nombre)
+{
+    struct stat estado{};
+    return lstat(("/dev/shm/" + nombre).c_str(), &estado) == 0;
+}
+
+std::vector<unsigned char> lee_bloque(const std::string &nombre)
+{
+    const int fd = shm_open(("/" + nombre).c_str(), O_RDONLY, 0);
+    if (fd < 0)
+        return {};
+    struct stat estado{};
+    fstat(fd, &estado);
+    std::vector<unsigned char> bytes(static_cast<size_t>(estado.st_size));
+    if (!bytes.empty() && pread(fd, bytes.data(), bytes.size(), 0) != estado.st_size)
+        bytes.clear();
+    close(fd);
+    return bytes;
+}
+
+uint32_t u32_en(const std::vector<unsigned char> &bytes, size_t desplazamiento)
+{
+    uint32_t valor = 0;
+    for (size_t i = 0; i < 4; ++i)
+        valor |= static_cast<uint32_t>(bytes.at(desplazamiento + i)) << (8 * i);
+    return valor;
+}

@@ -12,17 +12,22 @@
 
 namespace {
 
+// One line on standard error, in English: what was broken, where it was checked and, for a
+// loop-guard report, where the caller was.
 void manejador_por_defecto(const arr_informe *informe, void *)
 {
-    static const char *const clases[] = {"error interno", "error interno", "tipo no tratado"};
-    if (informe->clase == ARR_INFORME_ORIGEN)
-        std::fprintf(stderr, "arrays: %s: \"%s\" en %s, linea %d, llamado desde %s, linea %d\n",
-                     clases[informe->clase], informe->expresion, informe->ubicacion,
-                     static_cast<int>(informe->linea), informe->ubicacion_origen,
+    const int linea = static_cast<int>(informe->linea);
+    if (informe->clase == ARR_INFORME_DEFAULT)
+        std::fprintf(stderr, "arrays: unhandled element type in %s, line %d\n", informe->ubicacion,
+                     linea);
+    else if (informe->clase == ARR_INFORME_ORIGEN)
+        std::fprintf(stderr,
+                     "arrays: broken precondition \"%s\" in %s, line %d, called from %s, line %d\n",
+                     informe->expresion, informe->ubicacion, linea, informe->ubicacion_origen,
                      static_cast<int>(informe->linea_origen));
     else
-        std::fprintf(stderr, "arrays: %s: \"%s\" en %s, linea %d\n", clases[informe->clase],
-                     informe->expresion, informe->ubicacion, static_cast<int>(informe->linea));
+        std::fprintf(stderr, "arrays: broken precondition \"%s\" in %s, line %d\n",
+                     informe->expresion, informe->ubicacion, linea);
     if (std::getenv("ARRAYS_ABORTAR") != nullptr)
         std::abort();
 }

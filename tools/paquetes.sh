@@ -1,0 +1,26 @@
+# The one list of Debian 12 packages that building, testing and benchmarking libarrays need, and
+# the function that installs those missing. Sourced by tools/demo, tools/check and tools/bench.
+
+# The library and the demo.
+PAQUETES_DEMO=(cmake ninja-build g++ libicu-dev)
+# The tests besides: clang with its sanitizer runtimes, GoogleTest, Boost.Geometry (headers) for
+# the geometry checks, valgrind, pkg-config for the installation test.
+PAQUETES_PRUEBAS=("${PAQUETES_DEMO[@]}" clang libclang-rt-14-dev libgtest-dev libgmock-dev
+                  libboost-dev valgrind pkgconf)
+# The benchmarks besides: Google Benchmark and GLib, one of the peers.
+PAQUETES_BANCOS=("${PAQUETES_PRUEBAS[@]}" libbenchmark-dev libglib2.0-dev)
+
+# Installs the packages named that are missing (as root, or through sudo).
+instala_que_falten() {
+  local faltan=() paquete
+  for paquete in "$@"; do
+    dpkg -s "$paquete" >/dev/null 2>&1 || faltan+=("$paquete")
+  done
+  ((${#faltan[@]} == 0)) && return 0
+  echo "Installing ${faltan[*]}" >&2
+  local como=()
+  [[ $(id -u) -eq 0 ]] || como=(sudo)
+  export DEBIAN_FRONTEND=noninteractive
+  "${como[@]}" apt-get update
+  "${como[@]}" apt-get install -y --no-install-recommends "${faltan[@]}"
+}

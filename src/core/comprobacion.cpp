@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <cstring>
 
 namespace {
 
@@ -95,14 +96,18 @@ extern "C" ARRAYS_API BOOL arryprv_es_array_correcto(const ARRAY *array, int32_t
 {
     if (array == nullptr || array->mascara_debug != MASCARA_DEBUG)
         return FALSO;
+    // The tag as the number stored: a header that is not live may hold any value there.
+    int32_t etiqueta;
+    static_assert(sizeof etiqueta == sizeof array->tipo_elem);
+    std::memcpy(&etiqueta, &array->tipo_elem, sizeof etiqueta);
     if (tipo != nullptr)
-        *tipo = array->tipo_elem;
+        *tipo = etiqueta;
     if (num_elems != nullptr)
-        *num_elems = static_cast<int32_t>(array->tipo_elem == elem_BIT_NO_USAR
+        *num_elems = static_cast<int32_t>(etiqueta == elem_BIT_NO_USAR
                                               ? array->num_bits
                                               : static_cast<ULONG>(array->num_elems));
     if (size_elem != nullptr)
         *size_elem = array->size_elem;
-    return (array->tipo_elem >= elem_BYTE_NO_USAR && array->tipo_elem <= elem_PUNTO3D_NO_USAR) ||
-           array->tipo_elem == elem_CADENA_U_NO_USAR;
+    return (etiqueta >= elem_BYTE_NO_USAR && etiqueta <= elem_PUNTO3D_NO_USAR) ||
+           etiqueta == elem_CADENA_U_NO_USAR;
 }

@@ -52,13 +52,14 @@ ArrayLeido debugarr_lee_array(const ARRAY *array)
     int32_t num_elems = 0;
     uint64_t size_elem = 0;
     const bool valido = arryprv_es_array_correcto(&leido.cabecera, &tipo, &num_elems, &size_elem);
+    if (!valido && tipo != elem_BIT_NO_USAR) { // the tag of a header that is not live means nothing
+        leido.estado = EstadoArray::no_valido;
+        return leido;
+    }
+    leido.estado = valido ? EstadoArray::valido : EstadoArray::bits;
     leido.tipo = static_cast<tipo_elem_array>(tipo);
     leido.num_elems = static_cast<ULONG>(num_elems);
     leido.size_elem = size_elem;
-    if (valido)
-        leido.estado = EstadoArray::valido;
-    else
-        leido.estado = tipo == elem_BIT_NO_USAR ? EstadoArray::bits : EstadoArray::no_valido;
     return leido;
 }
 

@@ -151,9 +151,9 @@ TEST_F(Memoria, ABlockLargerThanASlabSlotComesFromTheHeap)
 TEST_F(Memoria, HeaderSlotIsCountedUntilReturnedToThePool)
 {
     const Balance balance;
-    void *cabecera = zarpspy_reserva_cabecera(sizeof(ARRAY));
+    void *cabecera = zarpspy_reserva_cabecera(sizeof(CabeceraArray));
     EXPECT_EQ(balance.bloques(), 1u);
-    EXPECT_EQ(balance.bytes(), sizeof(ARRAY));
+    EXPECT_EQ(balance.bytes(), sizeof(CabeceraArray));
     zarpspy_libera_cabecera(&cabecera);
     EXPECT_EQ(cabecera, nullptr);
     EXPECT_EQ(balance.bloques(), 0u);

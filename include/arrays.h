@@ -42,6 +42,20 @@ extern "C" {
 #define ARR_NOEXCEPT
 #endif
 
+/* ---- Version ---------------------------------------------------------------------------- */
+
+/* The version of this header. Within 0.x a new minor version may change the interface. */
+#define ARRAYS_VERSION_MAJOR 0
+#define ARRAYS_VERSION_MINOR 1
+#define ARRAYS_VERSION_PATCH 0
+#define ARRAYS_VERSION_NUMBER \
+    (ARRAYS_VERSION_MAJOR * 10000 + ARRAYS_VERSION_MINOR * 100 + ARRAYS_VERSION_PATCH)
+#define ARRAYS_VERSION_STRING "0.1.0"
+
+/* The version of the library in use, as ARRAYS_VERSION_NUMBER: compare it with the header's to
+ * catch a program run against another build of the library than it was compiled with. */
+ARRAYS_API unsigned arr_version(void) ARR_NOEXCEPT;
+
 /* ---- Types: the same widths on every platform ---------------------------------------- */
 
 typedef uint16_t BOOL;

@@ -1,6 +1,9 @@
-// Visiting every element with a callback: this library's traversal against a loop over a
-// std::vector that calls the same callback through a function pointer.
+// Visiting every element with a callback: this library's traversal, and a range-for over the C++
+// face (arrays.hpp), against a loop over a std::vector that calls the same callback through a
+// function pointer.
 #include "comun.h"
+
+#include "arrays.hpp"
 
 namespace {
 
@@ -24,6 +27,19 @@ void recorre_arrays(benchmark::State &estado)
     estado.SetItemsProcessed(estado.iterations() * estado.range(0));
 }
 
+void recorre_cara_cpp(benchmark::State &estado)
+{
+    const arr::array<double> a(static_cast<size_t>(estado.range(0)));
+    for (auto _ : estado) {
+        double total = 0;
+        BOOL (*const f)(double *, void *) = accion;
+        for (double &x : a)
+            f(&x, &total);
+        benchmark::DoNotOptimize(total);
+    }
+    estado.SetItemsProcessed(estado.iterations() * estado.range(0));
+}
+
 void recorre_vector(benchmark::State &estado)
 {
     std::vector<double> v(static_cast<size_t>(estado.range(0)));
@@ -39,6 +55,7 @@ void recorre_vector(benchmark::State &estado)
 
 const bool registrado = [] {
     for (auto *b : {benchmark::RegisterBenchmark("traversal/arrays", recorre_arrays),
+                    benchmark::RegisterBenchmark("traversal/arrays.hpp", recorre_cara_cpp),
                     benchmark::RegisterBenchmark("traversal/std::vector", recorre_vector)})
         b->Arg(1000)->Arg(100000)->Arg(1000000)->Arg(10000000);
     return true;

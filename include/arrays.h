@@ -148,6 +148,16 @@ ARRAYS_API BOOL arryprv_es_array_correcto(const ARRAY *array, int32_t *tipo, int
  * Returns the value stored. */
 ARRAYS_API BOOL arrayprv_set_comprobar_en_bucle(BOOL valor) ARR_NOEXCEPT;
 
+/* ---- Rows ------------------------------------------------------------------------------ */
+
+/* The elements of row `fila` of any array, for iterations that pay one call per row instead of
+ * one per element (the iterators of arrays.hpp): the address of the row's first element, and
+ * its element count in *num_elems (when not NULL). Rows hold the elements in position order,
+ * each row at least one, and each element in the layout of its type (a 2D point as x then y);
+ * NULL and 0 past the last row. The address is valid until the array next changes. Reports
+ * "(array) != NULL" and "array->mascara_debug == MASCARA_DEBUG" (NULL then). */
+ARRAYS_API void *arr_Fila(const ARRAY *array, ULONG fila, ULONG *num_elems) ARR_NOEXCEPT;
+
 /* ---- Strings handed across the interface ------------------------------------------------ */
 
 /* Strings that callers hand over to an array (the ...Original operations) must come from these,

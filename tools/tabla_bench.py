@@ -34,8 +34,9 @@ def maquina(contexto):
             f"{platform.system()} {platform.release()}, {compilador}; run {contexto.get('date')}")
 
 
-# The targets: (operation, size, peer, largest ratio). Ratios are this library's time divided by
-# the peer's; a peer of None is a bytes-per-element bound on this library alone.
+# The targets: (operation, size, peer, largest ratio), or with a fifth item "≥" the smallest ratio.
+# Ratios are this library's time divided by the peer's; a peer of None is a bytes-per-element
+# bound on this library alone. The C++ face ("arrays.hpp") is held to the C traversal's speed.
 OBJETIVOS = [
     ("append", 10**7, "std::deque", 1.5),
     ("append", 10**7, "GArray", 1.0),
@@ -47,6 +48,7 @@ OBJETIVOS = [
     ("random_get_after_inserts", 10**6, "GSequence", 0.01),
     ("random_get_after_inserts", 10**7, "GSequence", 0.01),
     ("traversal", 10**7, "std::vector", 1.1),
+    ("traversal", 10**6, "arrays.hpp", 0.9, "≥"),
     ("random_insert_delete", 10**6, "std::vector", 0.01),
     ("random_insert_delete", 10**6, "GArray", 0.01),
     ("random_insert_delete", 10**6, "std::deque", 0.01),
@@ -69,7 +71,8 @@ def imprime_objetivos(tiempos, bytes_por):
     print("## Targets\n")
     print("| operation | size | against | target | measured | met |")
     print("|---|---:|---|---:|---:|---|")
-    for operacion, tamanyo, peer, limite in OBJETIVOS:
+    for operacion, tamanyo, peer, limite, *sentido in OBJETIVOS:
+        minimo = sentido == ["≥"]
         if peer is None:
             medida = bytes_por.get((operacion, tamanyo), {}).get("arrays")
             contra = "bytes per element"
@@ -78,8 +81,10 @@ def imprime_objetivos(tiempos, bytes_por):
             medida = v["arrays"] / v[peer] if "arrays" in v and v.get(peer) else None
             contra = peer
         texto = "not run" if medida is None else f"{medida:.3f}"
-        cumple = "" if medida is None else ("yes" if medida <= limite else "**no**")
-        print(f"| {operacion} | {tamanyo:,} | {contra} | ≤ {limite} | {texto} | {cumple} |")
+        dentro = medida is not None and (medida >= limite if minimo else medida <= limite)
+        cumple = "" if medida is None else ("yes" if dentro else "**no**")
+        print(f"| {operacion} | {tamanyo:,} | {contra} | {'≥' if minimo else '≤'} {limite} "
+              f"| {texto} | {cumple} |")
     print()
 
 

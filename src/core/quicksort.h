@@ -17,6 +17,7 @@
 
 #include "core/arrayprv.h"
 #include "core/comparadores.h"
+#include "core/orden_claves.h"
 #include "core/pilaqsor.h"
 #include "services/informes.h"
 
@@ -393,8 +394,33 @@ bool arrayprv_ordena_si_monotono(ARRAY *array, Comparacion &comparacion)
     return true;
 }
 
-// Sorts by a type's default order (whose calls no caller can observe), with the same checks,
-// reports, comparisons and swaps as arrayprv_qsort with that order in its table.
+// True when any correct sort of `array` by a total default order on T gives the same bytes, so
+// that the sort by keys may stand in for the quicksort: the integer types always (equal values
+// are identical), doubles when arrayprv_dobles_sin_empates_aparentes says so. (BOOL's one-sided
+// order is not total; strings, whose equal values may be different pointers, are not numbers.)
+template <typename T> bool arrayprv_orden_sin_empates_aparentes(const ARRAY *array)
+{
+    if constexpr (std::is_same_v<T, double>)
+        return arrayprv_dobles_sin_empates_aparentes(array);
+    else
+        return std::is_integral_v<T>;
+}
+
+// Sorts an array not known to be in order by a default order: by keys where that cannot show,
+// else by the quicksort.
+template <typename T, typename Comparacion>
+void arrayprv_ordena_desordenado(ARRAY *array, Comparacion &comparacion)
+{
+    if constexpr (Comparacion::orden_total) {
+        if (arrayprv_orden_sin_empates_aparentes<T>(array))
+            return arrayprv_ordena_por_claves<T>(array);
+    }
+    arrayprv_quicksort(array, comparacion);
+}
+
+// Sorts by a type's default order (whose calls no caller can observe). Where the result cannot
+// depend on the sort (arrayprv_orden_sin_empates_aparentes) it sorts by keys; elsewhere it makes
+// the same checks, reports, comparisons and swaps as arrayprv_qsort with that order in its table.
 template <typename T, int (*ORDEN)(T, T)> void arrayprv_qsort_valores(ARRAY *array, tipo_elem_array tipo_elem)
 {
     constexpr const char *UBICACION = UBICACION_ARRAYPRV;
@@ -403,6 +429,6 @@ template <typename T, int (*ORDEN)(T, T)> void arrayprv_qsort_valores(ARRAY *arr
         return;
     ComparacionValores<T, ORDEN> comparacion;
     if (!comparacion.orden_total || !arrayprv_ordena_si_monotono<T, ORDEN>(array, comparacion))
-        arrayprv_quicksort(array, comparacion);
+        arrayprv_ordena_desordenado<T>(array, comparacion);
     arrayprv_qsort_termina(array);
 }

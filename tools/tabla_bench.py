@@ -59,6 +59,12 @@ OBJETIVOS = [
     ("sort_sorted", 10**6, "qsort", 0.3),
     ("sort_reversed", 10**6, "qsort", 0.3),
     ("sort_equal", 10**6, "qsort", 0.3),
+    ("sort_random", 10**6, "pdqsort", 0.5),
+    ("sort_random", 10**7, "pdqsort", 0.5),
+    ("sort_random_long", 10**6, "pdqsort", 0.5),
+    ("sort_random_long", 10**7, "pdqsort", 0.5),
+    ("sort_random_long64", 10**6, "pdqsort", 0.5),
+    ("sort_random_long64", 10**7, "pdqsort", 0.5),
     ("bytes_after_appends", 10**6, None, 8.4),
     ("bytes_after_appends", 10**7, None, 8.4),
     ("bytes_after_appends", 10**8, None, 8.4),
@@ -86,6 +92,27 @@ def imprime_objetivos(tiempos, bytes_por):
         print(f"| {operacion} | {tamanyo:,} | {contra} | {'≥' if minimo else '≤'} {limite} "
               f"| {texto} | {cumple} |")
     print()
+
+
+# The shapes of the sort benchmarks, each held to at most twice the same type's random input.
+FORMAS = ["sorted", "reversed", "equal", "organ_pipe", "sawtooth", "stagger", "plateau"]
+TIPOS = [("double", ""), ("Long", "_long"), ("Long64", "_long64"), ("BYTE", "_byte")]
+
+
+def imprime_formas(tiempos, tamanyo=10**6, limite=2.0):
+    print(f"\n## Sorting shapes against random input ({tamanyo:,} elements)\n")
+    print(f"This library's time on each shape divided by its time on random input of the same type; "
+          f"the target is at most {limite}.\n")
+    print("| shape | " + " | ".join(nombre for nombre, _ in TIPOS) + " |")
+    print("|---|" + "---:|" * len(TIPOS))
+    for forma in FORMAS:
+        celdas = []
+        for _, sufijo in TIPOS:
+            t = tiempos.get((f"sort_{forma}{sufijo}", tamanyo), {}).get("arrays")
+            base = tiempos.get((f"sort_random{sufijo}", tamanyo), {}).get("arrays")
+            celdas.append("" if not t or not base else
+                          f"{t / base:.3f}" + ("" if t / base <= limite else " **over**"))
+        print(f"| {forma} | " + " | ".join(celdas) + " |")
 
 
 def main(carpeta):
@@ -132,6 +159,7 @@ def main(carpeta):
             continue
         celdas = [f"{v['arrays'] / v[p]:.3f}" if p in v and v[p] > 0 else "" for p in peers]
         print(f"| {operacion} | {tamanyo:,} | " + " | ".join(celdas) + " |")
+    imprime_formas(tiempos)
     if bytes_por:
         print("\n## Bytes per element\n")
         print("Bytes handed out to the container (the C library's bytes in use, and the slots this "

@@ -90,15 +90,15 @@ static void orden_y_busqueda(void)
 
 static void texto(void)
 {
-    static const char *const animales[] = {"c\xC3\xB3ndor", "ping\xC3\xBCino", "\xC3\xB1" "and\xC3\xBA",
+    static const char *const animales[] = {"c\xC3\xB3ndor", "ping\xC3\xBCino", "\xC3\xB1\x61nd\xC3\xBA",
                                            "alpaca"};
     ARRAY *cadenas = arr_CreaCADENA(0);
     size_t i;
     for (i = 0; i < sizeof animales / sizeof animales[0]; ++i)
         arr_AppendCADENA(cadenas, animales[i]);
-    printf("3. \"\xC3\x91" "AND\xC3\x9A\" found, ignoring case, at position %lu: \"%s\"\n",
-           (unsigned long)arr_BuscarMayMinCADENA(cadenas, "\xC3\x91" "AND\xC3\x9A"),
-           arr_GetCADENA(cadenas, arr_BuscarMayMinCADENA(cadenas, "\xC3\x91" "AND\xC3\x9A")));
+    printf("3. \"\xC3\x91\x41ND\xC3\x9A\" found, ignoring case, at position %lu: \"%s\"\n",
+           (unsigned long)arr_BuscarMayMinCADENA(cadenas, "\xC3\x91\x41ND\xC3\x9A"),
+           arr_GetCADENA(cadenas, arr_BuscarMayMinCADENA(cadenas, "\xC3\x91\x41ND\xC3\x9A")));
     arr_QSortCADENA(cadenas, NULL);
     printf("   sorted by bytes: %s, %s, %s, %s\n", arr_GetCADENA(cadenas, 0),
            arr_GetCADENA(cadenas, 1), arr_GetCADENA(cadenas, 2), arr_GetCADENA(cadenas, 3));

@@ -17,7 +17,7 @@ int main()
     std::printf("\n12 is at position %zu\n", *precios.find(12.0));
 
     arr::array<std::string> aves;
-    for (const char *ave : {"ping\xC3\xBCino", "c\xC3\xB3ndor", "\xC3\xB1" "and\xC3\xBA"})
+    for (const char *ave : {"ping\xC3\xBCino", "c\xC3\xB3ndor", "\xC3\xB1\x61nd\xC3\xBA"})
         aves.push_back(ave);
     for (std::string_view ave : aves)
         std::printf("%.*s\n", static_cast<int>(ave.size()), ave.data());

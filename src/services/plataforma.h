@@ -13,6 +13,13 @@
 // of them cannot be read (unmapped, or mapped without read access). `destino` may then hold part.
 bool plataforma_copia_legible(const void *origen, void *destino, size_t bytes);
 
+// A large scratch block of `bytes` bytes (contents undefined), asked of the system directly and
+// advised to use huge pages, so that filling it takes a page fault per 2 MiB instead of per
+// 4 KiB; NULL, without stopping the program, when the system has no memory for it. Returned
+// with plataforma_libera_grande and the same size.
+void *plataforma_reserva_grande(size_t bytes);
+void plataforma_libera_grande(void *bloque, size_t bytes);
+
 // A named block of shared memory mapped into this process.
 struct BloqueCompartido {
     void *vista = nullptr;    // the mapped bytes; NULL while nothing is mapped

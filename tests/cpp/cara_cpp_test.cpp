@@ -139,11 +139,11 @@ TEST_F(CaraCpp, StringsGoInAsViewsAndComeOutAsStrings)
     arr::array<std::string> cadenas;
     const std::string_view sin_terminar = std::string_view("pera y manzana").substr(0, 4);
     cadenas.push_back(sin_terminar);
-    cadenas.push_back("\xC3\xB1" "and\xC3\xBA");
+    cadenas.push_back("\xC3\xB1\x61nd\xC3\xBA");
     cadenas.insert(0, "arroz");
     EXPECT_EQ(cadenas.at(1), "pera");
     std::vector<std::string_view> vistas(cadenas.begin(), cadenas.end());
-    EXPECT_EQ(vistas, (std::vector<std::string_view>{"arroz", "pera", "\xC3\xB1" "and\xC3\xBA"}));
+    EXPECT_EQ(vistas, (std::vector<std::string_view>{"arroz", "pera", "\xC3\xB1\x61nd\xC3\xBA"}));
     EXPECT_EQ(cadenas.find("pera"), std::optional<std::size_t>(1));
     const arr::array<std::string> vacias(2);
     EXPECT_EQ(std::vector<std::string_view>(vacias.begin(), vacias.end()),

@@ -159,7 +159,7 @@ TEST_F(Volcado, WideStringLinesGoThroughTheWideSink)
     arr_AppendCADENA_u(array, u"\u00D1and\u00FA \U0001F600");
     debugarr_outputDebug(array);
     EXPECT_EQ(salidas(), (Salidas{{false, "\r\nArray de 1 elementos:\r\n"},
-                                  {true, "[1]: \"\xC3\x91" "and\xC3\xBA \xF0\x9F\x98\x80\"\r\n"}}));
+                                  {true, "[1]: \"\xC3\x91\x61nd\xC3\xBA \xF0\x9F\x98\x80\"\r\n"}}));
     arr_DestruyeCADENA_u(&array);
 }
 

@@ -77,7 +77,7 @@ TEST(SalidaDepuracion, NarrowTextsReachStandardErrorInUtf8)
     EXPECT_EQ(::testing::internal::GetCapturedStderr(),
               "\r\nArray con direcci\xC3\xB3n no v\xC3\xA1lida.\r\n"
               "[1]: \"direcci\xC3\xB3n\"\r\n"
-              "[1]: \"\xC3\x91" "and\xC3\xBA\"\r\n");
+              "[1]: \"\xC3\x91\x61nd\xC3\xBA\"\r\n");
 }
 
 } // namespace

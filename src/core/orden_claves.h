@@ -125,7 +125,8 @@ template <typename T, typename Visita> void arrayprv_lee_filas(const ARRAY *arra
 inline size_t arrayprv_fila_de(const ARRAY *array, size_t indice)
 {
     const size_t *inicio = array->acumulado_filas;
-    return static_cast<size_t>(std::upper_bound(inicio, inicio + array->num_filas, indice) - inicio) - 1;
+    const size_t *siguiente = std::upper_bound(inicio, inicio + array->num_filas, indice);
+    return static_cast<size_t>(siguiente - inicio) - 1;
 }
 
 // A cursor at each of `inicios` (ascending indices from `desde` on; a bucket that receives
@@ -202,8 +203,8 @@ template <typename T> void arrayprv_ordena_cubo(ARRAY *array, T *copia, size_t i
 
 // The radix sort proper, `copia` having room for num_elems values: one pass by the most
 // significant byte in which the keys differ, from the rows into the copy, splits the values into
-// buckets in their final order; each bucket is then sorted by its lower bytes (arrayprv_ordena_cubo)
-// and lands in the rows.
+// buckets in their final order; each bucket is then sorted by its lower bytes
+// (arrayprv_ordena_cubo) and lands in the rows.
 template <typename T> void arrayprv_ordena_radix(ARRAY *array, T *copia)
 {
     std::array<std::array<size_t, 256>, sizeof(T)> cuentas{};

@@ -4,6 +4,7 @@
 // POSIX its name is taken away at a normal exit.
 #include "debug/lectura.h"
 #include "debug/lineas.h"
+#include "debug/nombres.h"
 #include "debug/salida.h"
 #include "services/plataforma.h"
 
@@ -12,8 +13,7 @@
 
 namespace {
 
-constexpr const char *NOMBRE = "MemComp_ZarpTools_serializa_num_elems";
-constexpr size_t BYTES_BLOQUE = 12;
+constexpr const char *NOMBRE = DEBUGARR_NOMBRE_CUENTA;
 
 BloqueCompartido bloque;
 
@@ -23,7 +23,7 @@ void escribe(uint32_t cuenta)
 {
     const uint32_t palabras[3] = {cuenta, 0, 0};
     auto *vista = static_cast<unsigned char *>(bloque.vista);
-    for (size_t i = 0; i < BYTES_BLOQUE; ++i)
+    for (size_t i = 0; i < DEBUGARR_BYTES_CUENTA; ++i)
         vista[i] = static_cast<unsigned char>(palabras[i / 4] >> (8 * (i % 4)));
 }
 
@@ -32,7 +32,7 @@ bool bloque_listo()
 {
     if (bloque.vista != nullptr)
         return true;
-    if (!plataforma_crea_bloque(NOMBRE, BYTES_BLOQUE, &bloque))
+    if (!plataforma_crea_bloque(NOMBRE, DEBUGARR_BYTES_CUENTA, &bloque))
         return false;
     std::atexit(quita_nombre_al_salir);
     escribe(ARR_ULONG_MAX);

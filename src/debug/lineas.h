@@ -10,7 +10,8 @@
 inline constexpr size_t DEBUGARR_BYTES_LINEA = 65536;
 
 inline constexpr const char *DEBUGARR_ARRAY_NULL = "\r\nArray es NULL.\r\n";
-inline constexpr const char *DEBUGARR_DIRECCION_NO_VALIDA = "\r\nArray con direcci\xF3n no v\xE1lida.\r\n";
+inline constexpr const char *DEBUGARR_DIRECCION_NO_VALIDA =
+    "\r\nArray con direcci\xF3n no v\xE1lida.\r\n";
 inline constexpr const char *DEBUGARR_NO_IMPLEMENTADO = "\r\nTipo de array no implementado.\r\n";
 inline constexpr const char *DEBUGARR_CUENTA_NULL = "\r\nArray acadorde es NULL.\r\n";
 inline constexpr const char *DEBUGARR_CUENTA_NO_VALIDA = "\r\nArray acadorde no v\xE1lido.\r\n";

@@ -5,12 +5,12 @@
 
 #include "debug/aplanado.h"
 #include "debug/lineas.h"
+#include "debug/nombres.h"
 #include "debug/salida.h"
 #include "services/cadenas.h"
 #include "services/informes.h"
 #include "services/memoria.h"
 
-#include <cinttypes>
 #include <cstdio>
 #include <cstdint>
 #include <cstdlib>
@@ -20,9 +20,6 @@
 namespace {
 
 constexpr const char *UBICACION = "debugarr (ARRAYS.DLL)";
-
-// The block's header: data bytes and element size, 4 bytes each, little-endian.
-constexpr size_t BYTES_CABECERA = 8;
 
 struct Slot {
     ULONG identificador;
@@ -90,12 +87,12 @@ size_t slot_siguiente()
 BloqueMemComp *publica(const ArrayLeido &leido, const Aplanado &copia, const char *nombre)
 {
     BloqueCompartido compartido;
-    if (!plataforma_crea_bloque(nombre, copia.bytes + BYTES_CABECERA, &compartido))
+    if (!plataforma_crea_bloque(nombre, copia.bytes + DEBUGARR_BYTES_CABECERA, &compartido))
         return nullptr;
     auto *vista = static_cast<unsigned char *>(compartido.vista);
     escribe_u32(vista, static_cast<uint32_t>(copia.bytes));
     escribe_u32(vista + 4, static_cast<uint32_t>(leido.size_elem));
-    std::memcpy(vista + BYTES_CABECERA, copia.buffer, copia.bytes);
+    std::memcpy(vista + DEBUGARR_BYTES_CABECERA, copia.buffer, copia.bytes);
     auto *bloque = static_cast<BloqueMemComp *>(zarpspy_nousar_calloc(1, sizeof(BloqueMemComp)));
     *bloque = {copia.buffer, leido.tipo, leido.num_elems, leido.size_elem, compartido, {}};
     std::snprintf(bloque->nombre, sizeof bloque->nombre, "%s", nombre);
@@ -135,11 +132,10 @@ extern "C" ARRAYS_API void debugarr_ini_serializa(const ARRAY *array, ULONG iden
     if (copia.ilegible)
         debugarr_escribe(DEBUGARR_DIRECCION_NO_VALIDA);
     // The header holds the data bytes in 32 bits: a larger copy cannot be described.
-    if (copia.buffer == nullptr || copia.bytes > UINT32_MAX - BYTES_CABECERA)
+    if (copia.buffer == nullptr || copia.bytes > UINT32_MAX - DEBUGARR_BYTES_CABECERA)
         return;
     const size_t slot = slot_siguiente();
-    char *nombre = nousar_formatea("MemComp_ZarpTools_debugarr_%" PRId32,
-                                   static_cast<int32_t>(identificador));
+    char *nombre = nousar_formatea(DEBUGARR_PATRON_BLOQUE, static_cast<int32_t>(identificador));
     BloqueMemComp *bloque = publica(leido, copia, nombre);
     zarpstr_destruye(&nombre);
     if (bloque == nullptr)

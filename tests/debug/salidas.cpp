@@ -1,6 +1,7 @@
 // Capturing sinks and shared-memory readers for the debug module's tests.
 #include "debug/salidas.h"
 
+#include "debug/nombres.h"
 #include "services/codificaciones.h"
 
 #include <fcntl.h>
@@ -8,7 +9,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cinttypes>
 #include <cstdio>
 #include <cstdlib>
 #include <ostream>
@@ -74,8 +74,7 @@ ULONG PruebaDebug::identificador(ULONG n)
 std::string nombre_bloque(ULONG identificador)
 {
     char nombre[64];
-    std::snprintf(nombre, sizeof nombre, "MemComp_ZarpTools_debugarr_%" PRId32,
-                  static_cast<int32_t>(identificador));
+    std::snprintf(nombre, sizeof nombre, DEBUGARR_PATRON_BLOQUE, static_cast<int32_t>(identificador));
     return nombre;
 }
 

@@ -459,11 +459,12 @@ ARR_DECLARA_ARULONG(arulong64, ULong64, ULONG64)
  *          a new copy of the string at pos, owned by the caller (NULL for a NULL element).
  *   void   arr_SetCADENA(ARRAY *a, ULONG pos, const char *cadena)
  *          frees the string at pos and stores a copy of cadena. A NULL cadena is reported as
- *          "item" and leaves a NULL element; a position without element as "(ptr_cad) != NULL".
+ *          "item" and leaves the element as it was; a position without element as
+ *          "(ptr_cad) != NULL".
  *   void   arr_SetCADENAOriginal(ARRAY *a, ULONG pos, char **cadena)
  *          frees the string at pos, stores *cadena itself and sets *cadena to NULL. A NULL
- *          address is reported as "item" and leaves a NULL element; a position without element
- *          as "(ptr_cad) != NULL" (then *cadena stays the caller's).
+ *          address is reported as "item" and leaves the element as it was; a position without
+ *          element as "(ptr_cad) != NULL" (then *cadena stays the caller's).
  *   ULONG  arr_AumentaTamanyoCADENA(ARRAY *a, ULONG nuevo_tamanyo)      (narrow only)
  *          grows to nuevo_tamanyo elements, each new one a copy of ""; returns the new count.
  *          A size not above the count is reported as "nuevo_tamanyo > num_elems_ant".

@@ -157,22 +157,20 @@ template <typename C> struct FamiliaCadena {
         arrayprv_set(array, pos, &cadena, TAG);
     }
 
+    // A NULL string is reported and the element keeps its string: nothing of the caller's data
+    // is lost for a wrong argument.
     static void set(ARRAY *array, ULONG pos, const C *cadena)
     {
-        ARR_EXIGE(cadena != nullptr, "item");
-        reemplaza(array, pos, [&] { return R::copia(cadena); });
+        if (ARR_EXIGE(cadena != nullptr, "item"))
+            reemplaza(array, pos, [&] { return R::copia(cadena); });
     }
 
-    // Without an address there is no string to hand over: the element is left NULL.
+    // Without an address there is no string to hand over: reported, and the element is left as
+    // it was.
     static void set_original(ARRAY *array, ULONG pos, C **cadena)
     {
-        const bool hay_cadena = ARR_EXIGE(cadena != nullptr, "item");
-        reemplaza(array, pos, [&] {
-            C *entregada = nullptr;
-            if (hay_cadena)
-                std::swap(entregada, *cadena);
-            return entregada;
-        });
+        if (ARR_EXIGE(cadena != nullptr, "item"))
+            reemplaza(array, pos, [&] { return std::exchange(*cadena, nullptr); });
     }
 
     // Grows through the engine, then gives every new element a copy of "" through the path of

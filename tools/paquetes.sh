@@ -2,11 +2,12 @@
 # the function that installs those missing. Sourced by tools/demo, tools/check and tools/bench.
 
 # The library and the demo.
-PAQUETES_DEMO=(cmake ninja-build g++ libicu-dev)
+PAQUETES_DEMO=(cmake ninja-build g++)
 # The tests besides: clang with its sanitizer runtimes, GoogleTest, Boost.Geometry (headers) for
-# the geometry checks, valgrind, pkg-config for the installation test.
+# the geometry checks, valgrind, pkg-config for the installation test, and Python with the
+# Unicode Character Database to check the case-folding table against its generator.
 PAQUETES_PRUEBAS=("${PAQUETES_DEMO[@]}" clang libclang-rt-14-dev libgtest-dev libgmock-dev
-                  libboost-dev valgrind pkgconf)
+                  libboost-dev valgrind pkgconf python3 unicode-data)
 # The benchmarks besides: Google Benchmark and GLib, one of the peers.
 PAQUETES_BANCOS=("${PAQUETES_PRUEBAS[@]}" libbenchmark-dev libglib2.0-dev)
 

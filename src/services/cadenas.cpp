@@ -2,14 +2,13 @@
 // formatting, all in tracked memory.
 #include "services/cadenas.h"
 
+#include "services/codificaciones.h"
 #include "services/memoria.h"
+#include "services/plegado.h"
 
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
-
-#include <unicode/uchar.h>
-#include <unicode/utf8.h>
 
 namespace {
 
@@ -18,14 +17,6 @@ char *nueva_cadena(size_t longitud)
     char *cadena = static_cast<char *>(zarpspy_nousar_malloc(longitud + 1));
     cadena[longitud] = '\0';
     return cadena;
-}
-
-// The next code point of a UTF-8 string, or a negative value at an ill-formed sequence.
-UChar32 siguiente(const char *s, int32_t &i)
-{
-    UChar32 c;
-    U8_NEXT(s, i, -1, c);
-    return c;
 }
 
 } // namespace
@@ -66,14 +57,13 @@ BOOL cad_cadenas_iguales_may_o_min(const char *a, const char *b)
 {
     if (a == nullptr || b == nullptr)
         return a == b;
-    int32_t i = 0;
-    int32_t j = 0;
-    for (;;) {
-        const UChar32 ca = siguiente(a, i);
-        const UChar32 cb = siguiente(b, j);
+    // Ill-formed UTF-8 in either string makes the comparison bytewise.
+    for (const char *pa = a, *pb = b;;) {
+        const int32_t ca = utf8_siguiente(pa);
+        const int32_t cb = utf8_siguiente(pb);
         if (ca < 0 || cb < 0)
             return std::strcmp(a, b) == 0;
-        if (u_foldCase(ca, U_FOLD_CASE_DEFAULT) != u_foldCase(cb, U_FOLD_CASE_DEFAULT))
+        if (plegado_simple(static_cast<char32_t>(ca)) != plegado_simple(static_cast<char32_t>(cb)))
             return FALSO;
         if (ca == 0)
             return CIERTO;

@@ -2,15 +2,16 @@
 // concatenation, all in tracked memory.
 #include "services/cadenas.h"
 
+#include "services/codificaciones.h"
 #include "services/memoria.h"
+#include "services/plegado.h"
 
-#include <unicode/uchar.h>
-#include <unicode/ustring.h>
-#include <unicode/utf16.h>
+#include <cstring>
+#include <string>
 
 namespace {
 
-size_t longitud(const WCHAR *cadena) { return static_cast<size_t>(u_strlen(cadena)); }
+size_t longitud(const WCHAR *cadena) { return std::char_traits<WCHAR>::length(cadena); }
 
 WCHAR *nueva_cadena(size_t num)
 {
@@ -37,7 +38,7 @@ extern "C" ARRAYS_API WCHAR *widestr_fun_copia(const WCHAR *cadena) noexcept
         return nullptr;
     const size_t num = longitud(cadena);
     WCHAR *copia = nueva_cadena(num);
-    u_memcpy(copia, cadena, static_cast<int32_t>(num));
+    std::memcpy(copia, cadena, num * sizeof(WCHAR));
     return copia;
 }
 
@@ -62,14 +63,10 @@ BOOL widestr_fun_cadenas_iguales_may_o_min(const WCHAR *a, const WCHAR *b)
 {
     if (a == nullptr || b == nullptr)
         return a == b;
-    int32_t i = 0;
-    int32_t j = 0;
     for (;;) {
-        UChar32 ca;
-        UChar32 cb;
-        U16_NEXT(a, i, -1, ca); // a lone surrogate comes back as itself
-        U16_NEXT(b, j, -1, cb);
-        if (u_foldCase(ca, U_FOLD_CASE_DEFAULT) != u_foldCase(cb, U_FOLD_CASE_DEFAULT))
+        const char32_t ca = utf16_siguiente(a); // a lone surrogate comes back as itself
+        const char32_t cb = utf16_siguiente(b);
+        if (plegado_simple(ca) != plegado_simple(cb))
             return FALSO;
         if (ca == 0)
             return CIERTO;
@@ -83,7 +80,7 @@ void widestr_nousar_cad_concatena(WCHAR **destino, const WCHAR *cadena, const ch
     WCHAR *resultado = static_cast<WCHAR *>(
         zarpspy_nousar_realloc(*destino, (previa + anyadida + 1) * sizeof(WCHAR)));
     if (anyadida > 0)
-        u_memcpy(resultado + previa, cadena, static_cast<int32_t>(anyadida));
+        std::memcpy(resultado + previa, cadena, anyadida * sizeof(WCHAR));
     resultado[previa + anyadida] = 0;
     *destino = resultado;
 }

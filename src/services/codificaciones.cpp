@@ -67,6 +67,29 @@ size_t secuencia_utf8(const unsigned char *p)
 
 } // namespace
 
+int32_t utf8_siguiente(const char *&texto)
+{
+    const auto *p = reinterpret_cast<const unsigned char *>(texto);
+    const size_t longitud = secuencia_utf8(p);
+    if (longitud == 0)
+        return -1;
+    // The bits of the lead byte that belong to the code point, by the sequence's length.
+    static constexpr unsigned char MASCARA_INICIAL[5] = {0, 0x7F, 0x1F, 0x0F, 0x07};
+    int32_t punto = p[0] & MASCARA_INICIAL[longitud];
+    for (size_t i = 1; i < longitud; ++i)
+        punto = (punto << 6) | (p[i] & 0x3F);
+    texto += longitud;
+    return punto;
+}
+
+char32_t utf16_siguiente(const WCHAR *&texto)
+{
+    const char32_t unidad = *texto++;
+    if (unidad >= 0xD800 && unidad <= 0xDBFF && *texto >= 0xDC00 && *texto <= 0xDFFF)
+        return 0x10000 + ((unidad - 0xD800) << 10) + (*texto++ - 0xDC00);
+    return unidad;
+}
+
 bool utf8_valido(const char *texto)
 {
     const auto *p = reinterpret_cast<const unsigned char *>(texto);
@@ -90,14 +113,9 @@ std::string cp1252_a_utf8(const char *texto)
 std::string utf16_a_utf8(const WCHAR *texto)
 {
     std::string utf8;
-    for (const WCHAR *p = texto; *p != 0; ++p) {
-        const char32_t unidad = *p;
-        if (unidad >= 0xD800 && unidad <= 0xDBFF && p[1] >= 0xDC00 && p[1] <= 0xDFFF) {
-            anyade_utf8(utf8, 0x10000 + ((unidad - 0xD800) << 10) + (p[1] - 0xDC00));
-            ++p;
-        } else {
-            anyade_utf8(utf8, unidad >= 0xD800 && unidad <= 0xDFFF ? SUSTITUTO : unidad);
-        }
+    while (*texto != 0) {
+        const char32_t punto = utf16_siguiente(texto);
+        anyade_utf8(utf8, punto >= 0xD800 && punto <= 0xDFFF ? SUSTITUTO : punto);
     }
     return utf8;
 }

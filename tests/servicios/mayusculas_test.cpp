@@ -3,8 +3,7 @@
 #include "soporte/prueba_arrays.h"
 
 #include "services/cadenas.h"
-
-#include <unicode/ustring.h>
+#include "services/codificaciones.h"
 
 #include <ostream>
 #include <string>
@@ -24,12 +23,18 @@ std::string nombre_de(const ::testing::TestParamInfo<Par> &info) { return info.p
 
 std::u16string utf16(const char *utf8)
 {
-    UErrorCode estado = U_ZERO_ERROR;
-    UChar buffer[64];
-    int32_t longitud = 0;
-    u_strFromUTF8(buffer, 64, &longitud, utf8, -1, &estado);
-    EXPECT_TRUE(U_SUCCESS(estado)) << utf8;
-    return std::u16string(buffer, static_cast<size_t>(longitud));
+    std::u16string texto;
+    int32_t punto;
+    while ((punto = utf8_siguiente(utf8)) > 0) {
+        if (punto >= 0x10000) {
+            texto += static_cast<char16_t>(0xD800 + ((punto - 0x10000) >> 10));
+            texto += static_cast<char16_t>(0xDC00 + ((punto - 0x10000) & 0x3FF));
+        } else {
+            texto += static_cast<char16_t>(punto);
+        }
+    }
+    EXPECT_EQ(punto, 0) << "ill-formed UTF-8 in a test word";
+    return texto;
 }
 
 class IgualesSinMayusculas : public PruebaArrays, public ::testing::WithParamInterface<Par> {};

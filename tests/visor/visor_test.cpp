@@ -258,10 +258,15 @@ TEST_F(Visor, CountIsReadAndFollowedUntilInterrupted)
         execl(RUTA_VISOR, RUTA_VISOR, "count", "--watch", "--interval", "20", nullptr);
         _exit(127);
     }
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    // Waits (ten seconds at most) until the viewer has printed `texto`.
+    const auto espera = [&base](const std::string &texto) {
+        for (int i = 0; i < 1000 && lee_fichero(base) != texto; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    };
+    espera("3 elements\n");
     arr_AppendLong(array, 1);
     debugarr_serializa_num_elems_array(array);
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    espera("3 elements\n4 elements\n");
     kill(hijo, SIGINT);
     int estado = 0;
     waitpid(hijo, &estado, 0);

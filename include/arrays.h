@@ -144,7 +144,17 @@ ARRAYS_API ULONG64 arr_num_informes(void) ARR_NOEXCEPT;
 ARRAYS_API BOOL arryprv_es_array_correcto(const ARRAY *array, int32_t *tipo, int32_t *num_elems,
                                           uint64_t *size_elem) ARR_NOEXCEPT;
 
-/* Process-wide switch of the lenient loop-guard check (on only while it equals 1).
+/* Callbacks that change the array they are called for. While a traversal, a sort, a search, an
+ * equality or a destruction calls back into the application (an action, a comparator, a
+ * predicate, a release function), a call on the same array that would free it or change its
+ * element count (append, insert, delete, grow, shrink, concatenation into it, destroy) is
+ * reported and NOT carried out: the walk goes on over the elements it started with, and the
+ * caller's handle stays valid, to be destroyed once the walk has returned. Inside a sort, a string
+ * set (which would free a string the sort may hold) is refused the same way. Writes in place
+ * (sets, increments, initialise) are reported and carried out. The reports are the loop-guard
+ * texts, e.g. "array->en_bucle == FALSO" or "(*array)->en_bucle_lectura == FALSO".
+ *
+ * Process-wide switch of the lenient loop-guard check (on only while it equals 1).
  * Returns the value stored. */
 ARRAYS_API BOOL arrayprv_set_comprobar_en_bucle(BOOL valor) ARR_NOEXCEPT;
 

@@ -129,6 +129,8 @@ struct TablaDirecta {
 // direct table, hence mutable: an array belongs to one thread at a time, its reads included.
 struct CabeceraArray {
     ARRAY array;
+    mutable uint32_t recorridos;   // walks running over the array (RecorridoEnCurso)
+    mutable uint32_t ordenaciones; // of them, sorts: they hold element values (OrdenacionEnCurso)
     GuiaFilas guia;
     mutable TablaDirecta directa;
 };
@@ -142,6 +144,49 @@ inline TablaDirecta &arrayprv_directa(const ARRAY *array)
 {
     return reinterpret_cast<const CabeceraArray *>(array)->directa;
 }
+
+// Walks running over the array: each holds addresses in its rows (a sort, element values too)
+// while it calls back into the application. Unlike the guard flags, which a nested walk clears on
+// its way out, the count is exact: while it is above 0 nothing may free the array, move, free or
+// shorten its rows, or free a string it owns (arrayprv_admite_cambio).
+inline uint32_t &arrayprv_recorridos(const ARRAY *array)
+{
+    return reinterpret_cast<const CabeceraArray *>(array)->recorridos;
+}
+
+// Counts a walk over one array for the scope it lives in.
+class RecorridoEnCurso {
+public:
+    explicit RecorridoEnCurso(const ARRAY *array) : recorridos_(arrayprv_recorridos(array)) { ++recorridos_; }
+    ~RecorridoEnCurso() { --recorridos_; }
+    RecorridoEnCurso(const RecorridoEnCurso &) = delete;
+    RecorridoEnCurso &operator=(const RecorridoEnCurso &) = delete;
+
+private:
+    uint32_t &recorridos_;
+};
+
+// A sort over one array for the scope it lives in: a walk that also keeps copies of element
+// values (its pivot) across its calls to the comparator.
+inline uint32_t &arrayprv_ordenaciones(const ARRAY *array)
+{
+    return reinterpret_cast<const CabeceraArray *>(array)->ordenaciones;
+}
+class OrdenacionEnCurso {
+public:
+    explicit OrdenacionEnCurso(const ARRAY *array)
+        : recorrido_(array), ordenaciones_(arrayprv_ordenaciones(array))
+    {
+        ++ordenaciones_;
+    }
+    ~OrdenacionEnCurso() { --ordenaciones_; }
+    OrdenacionEnCurso(const OrdenacionEnCurso &) = delete;
+    OrdenacionEnCurso &operator=(const OrdenacionEnCurso &) = delete;
+
+private:
+    RecorridoEnCurso recorrido_;
+    uint32_t &ordenaciones_;
+};
 
 // One element: its row and its offset in the row. Valid while fila < num_filas and
 // pos < long_filas[fila].
@@ -229,6 +274,17 @@ bool arrayprv_entrada(const ARRAY *array, const TextosEntrada &textos, bool guar
 bool arrayprv_entrada_tipo(const ARRAY *array, const TextosEntrada &textos, bool guardas, Modo modo,
                            tipo_elem_array tipo_elem,
                            const char *texto_tipo = "array->tipo_elem == tipo_elem");
+// What an operation that would free the array, move, free or shorten its rows, or free a string
+// it owns asks after its entry check: false while a walk runs over the array, and the operation is
+// then not carried out. The entry check has reported the guard flag that is set; a walk that it
+// could not see (its flag cleared by a nested walk, or a read walk, which checking mode does not
+// look at) is reported here by the texts of the flags.
+bool arrayprv_admite_cambio(const ARRAY *array, const TextosEntrada &textos);
+// What a set that would free the element's old value (a string the array owns) asks first: while a
+// sort runs over the array, which may hold that value as its pivot, the loop flags are reported as
+// a set reports them (the sort's own, if a nested walk cleared it) and the answer is false: the
+// element keeps its value. Other walks hold no value across a callback, so there the set goes on.
+bool arrayprv_admite_liberar_elemento(const ARRAY *array, const TextosEntrada &textos);
 
 // ---- Lifecycle (header, tags, creation, destruction, count) --------------------------------
 
@@ -495,12 +551,12 @@ void arrayprv_libera_contenido(ARRAY *array);
 // ---- Element walks (the one place that visits consecutive elements) -------------------------
 
 // Calls visita(address) for up to `cuantos` elements from `desde` on, in storage order; a visita
-// that returns bool ends the walk by returning false. Every step re-reads the row tables, so a
-// callback that changes or destroys the array (a reported misuse) ends the walk instead of
-// reading freed memory.
+// that returns bool ends the walk by returning false. The walk is counted over the array, so a
+// callback cannot free it or move its rows; every step re-reads the row tables all the same.
 template <typename Visita>
 void arrayprv_visita(const ARRAY *array, posicion_array desde, size_t cuantos, Visita &&visita)
 {
+    const RecorridoEnCurso recorrido(array);
     size_t fila = desde.fila;
     size_t pos = desde.pos;
     while (cuantos > 0 && fila < array->num_filas) {
@@ -532,6 +588,7 @@ void arrayprv_visita_todos(const ARRAY *array, Visita &&visita)
 template <typename Visita>
 void arrayprv_visita_pares(const ARRAY *array1, const ARRAY *array2, Visita &&visita)
 {
+    const RecorridoEnCurso recorrido2(array2);
     size_t fila2 = 0;
     size_t pos2 = 0;
     arrayprv_visita_todos(array1, [&](char *elemento1) {

@@ -81,6 +81,28 @@ bool arrayprv_entrada_tipo(const ARRAY *array, const TextosEntrada &textos, bool
            ARR_EXIGE(array->tipo_elem == tipo_elem, texto_tipo);
 }
 
+bool arrayprv_admite_cambio(const ARRAY *array, const TextosEntrada &textos)
+{
+    if (arrayprv_recorridos(array) == 0) [[likely]]
+        return true;
+    const bool lectura_vista = array->en_bucle_lectura != FALSO && !arrayprv_es_modo_comprobacion();
+    if (array->en_bucle == FALSO && !lectura_vista)
+        arr_exige(false, array->en_bucle_lectura != FALSO ? textos.en_bucle_lectura : textos.en_bucle,
+                  UBICACION, __LINE__);
+    return false;
+}
+
+bool arrayprv_admite_liberar_elemento(const ARRAY *array, const TextosEntrada &textos)
+{
+    if (arrayprv_ordenaciones(array) == 0) [[likely]]
+        return true;
+    const bool sin_bucle = ARR_EXIGE(array->en_bucle == FALSO, textos.en_bucle);
+    const bool sin_lectura = ARR_EXIGE(array->en_bucle_lectura == FALSO, textos.en_bucle_lectura);
+    if (sin_bucle && sin_lectura)
+        arr_exige(false, textos.en_bucle, UBICACION, __LINE__);
+    return false;
+}
+
 ARRAY *arrayprv_crea(ULONG tamanyo_inicial, tipo_elem_array tipo, ULONG long_fila_en_bytes)
 {
     ARRAY *array = arrayprv_reserva_cabecera();
@@ -130,7 +152,8 @@ void arrayprv_libera_filas(ARRAY *array)
 void arrayprv_destruye(ARRAY **array)
 {
     if (!ARR_EXIGE(array != nullptr, "(array) != NULL") ||
-        !arrayprv_entrada(*array, TEXTOS_HANDLE, true, Modo::estricto))
+        !arrayprv_entrada(*array, TEXTOS_HANDLE, true, Modo::estricto) ||
+        !arrayprv_admite_cambio(*array, TEXTOS_HANDLE))
         return;
     ARR_EXIGE((*array)->tipo_elem != elem_antiguo_PUNTO3DX,
               "(*array)->tipo_elem != elem_antiguo_PUNTO3DX");

@@ -155,7 +155,7 @@ ARRAY *arrayprv_copia(const ARRAY *array, funcion_copia copia)
 
 void arrayprv_concatena(ARRAY *dest, const ARRAY *org)
 {
-    if (!entrada_concatena(dest, org))
+    if (!entrada_concatena(dest, org) || !arrayprv_admite_cambio(dest, TEXTOS_DESTINO))
         return;
     const bool mismo_tipo =
         ARR_EXIGE(org->tipo_elem == dest->tipo_elem, "org->tipo_elem == dest->tipo_elem");

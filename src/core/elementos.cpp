@@ -81,7 +81,8 @@ bool posicion_guiada_contada(const ARRAY *array, ULONG real_pos, posicion_array 
 
 size_t arrayprv_append_comprobado(ARRAY *array, const void *elemento, tipo_elem_array tipo_elem)
 {
-    if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::estricto, tipo_elem))
+    if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::estricto, tipo_elem) ||
+        !arrayprv_admite_cambio(array, TEXTOS_ARRAY_CORTO))
         return 0;
     if (array->long_max_fila_en_elem == 0) // rows of this array cannot hold an element
         return array->num_elems;
@@ -108,6 +109,8 @@ void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento, tipo_e
     }
     if (arrayprv_es_modo_comprobacion())
         arrayprv_comprueba_array(array, 1);
+    if (!arrayprv_admite_cambio(array, TEXTOS_ARRAY_CORTO))
+        return;
     posicion_array destino;
     if (!arrayprv_posicion(array, real_pos, &destino))
         return;
@@ -122,7 +125,8 @@ void arrayprv_inserta(ARRAY *array, ULONG real_pos, const void *elemento, tipo_e
 
 void arrayprv_borra(ARRAY *array, ULONG real_pos, tipo_elem_array tipo_elem)
 {
-    if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::estricto, tipo_elem))
+    if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY_CORTO, true, Modo::estricto, tipo_elem) ||
+        !arrayprv_admite_cambio(array, TEXTOS_ARRAY_CORTO))
         return;
     posicion_array posi;
     if (!arrayprv_posicion(array, real_pos, &posi))
@@ -170,7 +174,8 @@ void arrayprv_inicializa(ARRAY *array, const void *elemento, tipo_elem_array tip
 
 void arrayprv_aumenta_tamanyo(ARRAY *array, ULONG nuevo_tamanyo_pedido)
 {
-    if (!arrayprv_entrada(array, TEXTOS_ARRAY, true, Modo::estricto))
+    if (!arrayprv_entrada(array, TEXTOS_ARRAY, true, Modo::estricto) ||
+        !arrayprv_admite_cambio(array, TEXTOS_ARRAY))
         return;
     size_t nuevo_tamanyo = nuevo_tamanyo_pedido;
     if (array->tipo_elem == elem_BIT_NO_USAR) {
@@ -202,7 +207,8 @@ void arrayprv_aumenta_tamanyo(ARRAY *array, ULONG nuevo_tamanyo_pedido)
 
 void arrayprv_reduce_tamanyo(ARRAY *array, ULONG nuevo_tamanyo_pedido)
 {
-    if (!arrayprv_entrada(array, TEXTOS_ARRAY, true, Modo::estricto))
+    if (!arrayprv_entrada(array, TEXTOS_ARRAY, true, Modo::estricto) ||
+        !arrayprv_admite_cambio(array, TEXTOS_ARRAY))
         return;
     ARR_EXIGE(array->tipo_elem != elem_antiguo_PUNTO3DX, "array->tipo_elem != elem_antiguo_PUNTO3DX");
     size_t nuevo_tamanyo = nuevo_tamanyo_pedido;

@@ -292,7 +292,8 @@ void arrayprv_quita_filas_vacias(ARRAY *array)
 
 void arrayprv_compacta(ARRAY *array)
 {
-    if (!arrayprv_entrada(array, TEXTOS_ARRAY, true, Modo::estricto) || array->num_filas == 0)
+    if (!arrayprv_entrada(array, TEXTOS_ARRAY, true, Modo::estricto) ||
+        !arrayprv_admite_cambio(array, TEXTOS_ARRAY) || array->num_filas == 0)
         return;
     size_t restantes = array->num_elems;
     for (size_t i = 0; i + 1 < array->num_filas; ++i) {

@@ -95,6 +95,8 @@ size_t primer_bloque_desde(const GuiaFilas &guia, size_t indice)
 ARRAY *arrayprv_reserva_cabecera()
 {
     auto *cabecera = static_cast<CabeceraArray *>(zarpspy_reserva_cabecera(sizeof(CabeceraArray)));
+    cabecera->recorridos = 0;
+    cabecera->ordenaciones = 0;
     cabecera->guia = GuiaFilas{};
     cabecera->directa = TablaDirecta{};
     return &cabecera->array;

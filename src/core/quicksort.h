@@ -292,6 +292,7 @@ inline void arrayprv_qsort_termina(ARRAY *array) { array->en_bucle = FALSO; }
 
 template <typename Comparacion> void arrayprv_quicksort(ARRAY *array, Comparacion &comparacion)
 {
+    const OrdenacionEnCurso ordenacion(array);
     pilaqsor *pila = pilaqsor_crea(static_cast<ULONG>(array->num_elems));
     Quicksort<Comparacion>(array, comparacion).ordena(pila);
     pilaqsor_destruye(&pila);

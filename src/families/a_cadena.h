@@ -128,13 +128,18 @@ template <typename C> struct FamiliaCadena {
         return static_cast<C **>(arrayprv_get(array, pos, TAG));
     }
 
+    // The string is freed once the engine has taken its element out (not, for one, inside a walk
+    // over the array, where the delete is refused).
     static void borra(ARRAY *array, ULONG pos)
     {
         C **ptr_cad = direccion(array, pos);
         if (ptr_cad == nullptr)
             return;
-        R::destruye(ptr_cad);
+        C *cadena = *ptr_cad;
+        const size_t antes = array->num_elems;
         arrayprv_borra(array, pos, TAG);
+        if (num_elems_sin_informe(array) < antes)
+            R::destruye(&cadena);
     }
 
     static const C *get(ARRAY *array, ULONG pos)
@@ -146,11 +151,12 @@ template <typename C> struct FamiliaCadena {
     static C *get_copia(ARRAY *array, ULONG pos) { return R::copia(get(array, pos)); }
 
     // Frees the string at `pos` and stores the one that `nueva()` gives, which the array then
-    // owns. `nueva` is not called when `pos` names no element.
+    // owns. `nueva` is not called when `pos` names no element, nor inside a sort of the array.
     template <typename Nueva> static void reemplaza(ARRAY *array, ULONG pos, Nueva &&nueva)
     {
         C **ptr_cad = direccion(array, pos);
-        if (!ARR_EXIGE(ptr_cad != nullptr, "(ptr_cad) != NULL"))
+        if (!ARR_EXIGE(ptr_cad != nullptr, "(ptr_cad) != NULL") ||
+            !arrayprv_admite_liberar_elemento(array, TEXTOS_ARRAY_CORTO))
             return;
         R::destruye(ptr_cad);
         C *cadena = nueva();

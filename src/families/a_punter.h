@@ -11,7 +11,8 @@ inline constexpr const char *TEXTO_TIPO_PUNTERO = "array->tipo_elem == elem_PUNT
 
 // The header check of an export, reported from this module: the handle (textos.nulo), the mark
 // and, when `guardas`, the loop guards. In checking mode the full check with the strictness of
-// `modo` replaces these, unless `modo` is Modo::ninguno. False when the array cannot be touched.
+// `modo` replaces these, unless `modo` is Modo::ninguno. False when the array cannot be touched,
+// and, when `guardas`, while a walk runs over it (arrayprv_admite_cambio).
 bool punteros_cabecera(const ARRAY *array, const TextosEntrada &textos, bool guardas, Modo modo);
 
 // The header check, then the pointer tag (texto_tipo); false when the array cannot be used.

@@ -40,6 +40,7 @@ ULONG biseca(const ARRAY *array, Compara compara, const void *dato, bool &encont
     const bool hay_compara = ARR_EXIGE(compara != nullptr, "(compara) != NULL");
     if (!array_usable || !hay_compara)
         return ARR_ULONG_MAX;
+    const RecorridoEnCurso recorrido(array);
     const ULONG n = static_cast<ULONG>(array->num_elems);
     if (n == 0)
         return 0;

@@ -20,16 +20,19 @@ bool punteros_cabecera(const ARRAY *array, const TextosEntrada &textos, bool gua
 {
     if (modo != Modo::ninguno && arrayprv_es_modo_comprobacion()) {
         arrayprv_comprueba_array(array, modo == Modo::estricto);
-        return array != nullptr && array->mascara_debug == MASCARA_DEBUG;
+        if (array == nullptr || array->mascara_debug != MASCARA_DEBUG)
+            return false;
+    } else {
+        if (!ARR_EXIGE(array != nullptr, textos.nulo) ||
+            !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, textos.mascara))
+            return false;
+        if (guardas) {
+            ARR_EXIGE(array->en_bucle == FALSO, textos.en_bucle);
+            ARR_EXIGE(array->en_bucle_lectura == FALSO, textos.en_bucle_lectura);
+        }
     }
-    if (!ARR_EXIGE(array != nullptr, textos.nulo) ||
-        !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, textos.mascara))
-        return false;
-    if (guardas) {
-        ARR_EXIGE(array->en_bucle == FALSO, textos.en_bucle);
-        ARR_EXIGE(array->en_bucle_lectura == FALSO, textos.en_bucle_lectura);
-    }
-    return true;
+    // Every guarded operation of this family frees the array or changes its count.
+    return !guardas || arrayprv_admite_cambio(array, textos);
 }
 
 bool punteros_entrada(const ARRAY *array, bool guardas, Modo modo, const TextosEntrada &textos,

@@ -128,7 +128,8 @@ extern "C" void arr_DestruyePunto2DXPriv(ARRAY **array,
 {
     if (!ARR_EXIGE(array != nullptr, "(array) != NULL") ||
         !arrayprv_entrada_tipo(*array, TEXTOS_HANDLE, true, Modo::estricto, TAG,
-                               "(*array)->tipo_elem == elem_PUNTO2DX_NO_USAR"))
+                               "(*array)->tipo_elem == elem_PUNTO2DX_NO_USAR") ||
+        !arrayprv_admite_cambio(*array, TEXTOS_HANDLE))
         return;
     if ((*array)->num_elems > 0) {
         if (destruye != nullptr)
@@ -144,7 +145,8 @@ extern "C" void arr_ReduceTamanyoPunto2DXPriv(ARRAY *array, ULONG nuevo_tamanyo,
                                               arr_destruye_datos_Punto2DXPriv destruye) noexcept
 {
     if (!arrayprv_entrada_tipo(array, TEXTOS_ARRAY, true, Modo::estricto, TAG,
-                               "array->tipo_elem == elem_PUNTO2DX_NO_USAR"))
+                               "array->tipo_elem == elem_PUNTO2DX_NO_USAR") ||
+        !arrayprv_admite_cambio(array, TEXTOS_ARRAY))
         return;
     ARR_EXIGE(nuevo_tamanyo <= array->num_elems, "nuevo_tamanyo <= array->num_elems");
     if (nuevo_tamanyo >= array->num_elems)
@@ -173,7 +175,8 @@ extern "C" void arr_ConcatenaPunto2DXPriv_nousar(ARRAY *dest, ARRAY *org,
     if (!ARR_EXIGE(org != nullptr, "(org) != NULL") ||
         !arrayprv_entrada_tipo(dest, TEXTOS_DESTINO, true, Modo::estricto, TAG,
                                "dest->tipo_elem == elem_PUNTO2DX_NO_USAR") ||
-        !ARR_EXIGE(org->mascara_debug == MASCARA_DEBUG, "org->mascara_debug == MASCARA_DEBUG"))
+        !ARR_EXIGE(org->mascara_debug == MASCARA_DEBUG, "org->mascara_debug == MASCARA_DEBUG") ||
+        !arrayprv_admite_cambio(dest, TEXTOS_DESTINO))
         return;
     // An array appended to itself would never reach the end of its growing count.
     if (ARR_EXIGE(dest != org, "dest != org"))

@@ -133,6 +133,16 @@ typedef void (*arr_manejador_informes)(const arr_informe *informe, void *context
 ARRAYS_API arr_manejador_informes arr_set_manejador_informes(arr_manejador_informes f,
                                                              void *contexto) ARR_NOEXCEPT;
 
+/* Out of memory. When the system has no block for the library, the handler installed here is
+ * called with the bytes asked for: one that frees memory of its own and returns nonzero has the
+ * request tried again; one that returns 0, or no handler, lets the library write
+ * "arrays: out of memory: no block of N bytes" to standard error and end the process (abort).
+ * No operation ever goes on with a missing block. The handler may destroy arrays, but not call
+ * the library on an array that an operation in progress is using. Returns the previous one. */
+typedef BOOL (*arr_manejador_sin_memoria)(size_t bytes, void *contexto);
+ARRAYS_API arr_manejador_sin_memoria arr_set_manejador_sin_memoria(arr_manejador_sin_memoria f,
+                                                                   void *contexto) ARR_NOEXCEPT;
+
 /* Number of reports made since the process started. */
 ARRAYS_API ULONG64 arr_num_informes(void) ARR_NOEXCEPT;
 

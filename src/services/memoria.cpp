@@ -4,6 +4,7 @@
 #include "services/memoria.h"
 
 #include "services/losas.h"
+#include "services/sin_memoria.h"
 
 #include <algorithm>
 #include <atomic>
@@ -28,12 +29,6 @@ static_assert(PREFIJO + ZARPSPY_MAX_BLOQUE_LOSA <= LOSAS_MAX_SLOT);
 
 std::atomic<size_t> bloques_vivos{0};
 std::atomic<size_t> bytes_vivos{0};
-
-[[noreturn]] void sin_memoria(size_t tamanyo)
-{
-    std::fprintf(stderr, "arrays: sin memoria para %zu bytes\n", tamanyo);
-    std::abort();
-}
 
 void cuenta_alta(size_t tamanyo)
 {
@@ -80,22 +75,28 @@ struct PoolCabeceras {
 
     void *reserva(size_t tamanyo)
     {
-        std::lock_guard<std::mutex> guarda(cerrojo);
-        if (tamanyo_slot == 0)
-            tamanyo_slot = tamanyo;
-        if (tamanyo != tamanyo_slot)
-            std::abort();
-        if (libres.empty()) {
-            void *trozo = std::calloc(SLOTS_POR_TROZO, tamanyo_slot);
-            if (trozo == nullptr)
-                sin_memoria(SLOTS_POR_TROZO * tamanyo_slot);
+        for (;;) {
+            {
+                const std::lock_guard<std::mutex> guarda(cerrojo);
+                if (tamanyo_slot == 0)
+                    tamanyo_slot = tamanyo;
+                if (tamanyo != tamanyo_slot)
+                    std::abort();
+                if (!libres.empty()) {
+                    void *slot = libres.back();
+                    libres.pop_back();
+                    return slot;
+                }
+            }
+            // A new chunk, asked for without the lock: the out-of-memory handler may destroy arrays.
+            void *trozo = sin_memoria_hasta_obtener(SLOTS_POR_TROZO * tamanyo, [&] {
+                return std::calloc(SLOTS_POR_TROZO, tamanyo);
+            });
+            const std::lock_guard<std::mutex> guarda(cerrojo);
             trozos.push_back(trozo);
             for (size_t i = SLOTS_POR_TROZO; i-- > 0;)
                 libres.push_back(static_cast<char *>(trozo) + i * tamanyo_slot);
         }
-        void *slot = libres.back();
-        libres.pop_back();
-        return slot;
     }
 
     void libera(void *slot)
@@ -115,20 +116,18 @@ PoolCabeceras &pool()
 
 void *zarpspy_nousar_malloc(size_t tamanyo)
 {
-    void *base = std::malloc(PREFIJO + tamanyo);
-    if (base == nullptr)
-        sin_memoria(tamanyo);
+    void *base = sin_memoria_hasta_obtener(tamanyo, [&] { return std::malloc(PREFIJO + tamanyo); });
     return estrena(base, tamanyo, Origen::monton);
 }
 
 void *zarpspy_nousar_calloc(size_t num, size_t tamanyo)
 {
     const size_t total = num * tamanyo;
-    if (tamanyo != 0 && total / tamanyo != num)
-        sin_memoria(SIZE_MAX);
-    void *base = std::calloc(1, PREFIJO + total);
-    if (base == nullptr)
-        sin_memoria(total);
+    if (tamanyo != 0 && total / tamanyo != num) {
+        std::fprintf(stderr, "arrays: out of memory: no block of %zu blocks of %zu bytes\n", num, tamanyo);
+        std::abort();
+    }
+    void *base = sin_memoria_hasta_obtener(total, [&] { return std::calloc(1, PREFIJO + total); });
     return estrena(base, total, Origen::monton);
 }
 
@@ -136,9 +135,7 @@ void *zarpspy_reserva_en_losa(size_t tamanyo)
 {
     if (tamanyo == 0 || tamanyo > ZARPSPY_MAX_BLOQUE_LOSA)
         return zarpspy_nousar_malloc(tamanyo);
-    void *base = losas_reserva(PREFIJO + tamanyo);
-    if (base == nullptr)
-        sin_memoria(tamanyo);
+    void *base = sin_memoria_hasta_obtener(tamanyo, [&] { return losas_reserva(PREFIJO + tamanyo); });
     return estrena(base, tamanyo, Origen::losa);
 }
 
@@ -154,9 +151,7 @@ void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo)
         zarpspy_nousar_free_pp(&bloque, 1);
         return nuevo;
     }
-    void *nueva = std::realloc(base, PREFIJO + tamanyo);
-    if (nueva == nullptr)
-        sin_memoria(tamanyo);
+    void *nueva = sin_memoria_hasta_obtener(tamanyo, [&] { return std::realloc(base, PREFIJO + tamanyo); });
     tamanyo_de(nueva) = tamanyo;
     bytes_vivos.fetch_add(tamanyo - anterior, std::memory_order_relaxed); // wraps when shrinking
     return usuario(nueva);

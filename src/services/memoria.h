@@ -1,5 +1,6 @@
 // Tracked heap memory: every block the library allocates is counted (live blocks and bytes), so
-// that tests can prove that nothing leaks. Allocation failure stops the program.
+// that tests can prove that nothing leaks. No function returns a NULL block: a failure goes to the
+// out-of-memory path (services/sin_memoria.h), which retries or ends the process.
 // Array headers come from a type-stable pool: a destroyed header stays readable (with its
 // validity mark cleared) for the life of the process, so a stale handle never reads freed memory.
 #pragma once

@@ -48,7 +48,7 @@ extern "C" {
 #define ARRAYS_VERSION_MAJOR 0
 #define ARRAYS_VERSION_MINOR 1
 #define ARRAYS_VERSION_PATCH 0
-#define ARRAYS_VERSION_NUMBER \
+#define ARRAYS_VERSION_NUMBER                                                                     \
     (ARRAYS_VERSION_MAJOR * 10000 + ARRAYS_VERSION_MINOR * 100 + ARRAYS_VERSION_PATCH)
 #define ARRAYS_VERSION_STRING "0.1.0"
 
@@ -58,19 +58,41 @@ ARRAYS_API unsigned arr_version(void) ARR_NOEXCEPT;
 
 /* ---- Types: the same widths on every platform ---------------------------------------- */
 
-typedef uint16_t BOOL;
-typedef uint8_t BYTE;
-typedef unsigned char UCHAR;
-typedef int16_t SHORT;
-typedef uint16_t USHORT;
-typedef int32_t LONG;
-typedef uint32_t ULONG;
-typedef int64_t LONG64;
-typedef uint64_t ULONG64;
-typedef char16_t WCHAR; /* one UTF-16 code unit; wide strings are zero-terminated UTF-16 */
+/* The types of the interface under prefixed names, used in every prototype below. */
+typedef uint16_t arr_bool_t;
+typedef uint8_t arr_byte_t;
+typedef unsigned char arr_uchar_t;
+typedef int16_t arr_short_t;
+typedef uint16_t arr_ushort_t;
+typedef int32_t arr_long_t;
+typedef uint32_t arr_ulong_t;
+typedef int64_t arr_long64_t;
+typedef uint64_t arr_ulong64_t;
+typedef char16_t arr_wchar_t; /* one UTF-16 code unit; wide strings are zero-terminated UTF-16 */
 
-#define FALSO ((BOOL)0)
-#define CIERTO ((BOOL)1)
+/* The short names of the same types, which the documentation uses. They are left out when the
+ * includer defines ARRAYS_NO_SHORT_TYPES, or has the Windows names already (<windows.h>, whose
+ * BOOL, LONG, ULONG, ... are other types of the same widths); <X11/Xmd.h>'s BOOL and BYTE are
+ * kept, and the rest defined. */
+#if !defined(ARRAYS_NO_SHORT_TYPES) && !defined(_WINDEF_)
+#if !defined(XMD_H)
+typedef arr_bool_t BOOL;
+typedef arr_byte_t BYTE;
+#endif
+typedef arr_uchar_t UCHAR;
+typedef arr_short_t SHORT;
+typedef arr_ushort_t USHORT;
+typedef arr_long_t LONG;
+typedef arr_ulong_t ULONG;
+#if !defined(LONG64) /* <X11/Xmd.h> defines it, empty, as a mark of 64-bit longs */
+typedef arr_long64_t LONG64;
+#endif
+typedef arr_ulong64_t ULONG64;
+typedef arr_wchar_t WCHAR;
+#endif
+
+#define FALSO ((arr_bool_t)0)
+#define CIERTO ((arr_bool_t)1)
 
 /* The position that means "not found" or "no such index". */
 #define ARR_ULONG_MAX 0xFFFFFFFFu
@@ -120,9 +142,9 @@ typedef struct arr_informe {
     int clase;                    /* ARR_INFORME_ERROR, ARR_INFORME_ORIGEN, ARR_INFORME_DEFAULT */
     const char *expresion;        /* UTF-8 text of the failed condition; "" for the default case */
     const char *ubicacion;        /* reporting module, e.g. "arrayprv (ARRAYS.DLL)" */
-    LONG linea;                   /* line of the check in that module */
+    arr_long_t linea;                   /* line of the check in that module */
     const char *ubicacion_origen; /* ARR_INFORME_ORIGEN only, else NULL */
-    LONG linea_origen;
+    arr_long_t linea_origen;
 } arr_informe;
 
 typedef void (*arr_manejador_informes)(const arr_informe *informe, void *contexto);
@@ -139,19 +161,20 @@ ARRAYS_API arr_manejador_informes arr_set_manejador_informes(arr_manejador_infor
  * "arrays: out of memory: no block of N bytes" to standard error and end the process (abort).
  * No operation ever goes on with a missing block. The handler may destroy arrays, but not call
  * the library on an array that an operation in progress is using. Returns the previous one. */
-typedef BOOL (*arr_manejador_sin_memoria)(size_t bytes, void *contexto);
+typedef arr_bool_t (*arr_manejador_sin_memoria)(size_t bytes, void *contexto);
 ARRAYS_API arr_manejador_sin_memoria arr_set_manejador_sin_memoria(arr_manejador_sin_memoria f,
                                                                    void *contexto) ARR_NOEXCEPT;
 
 /* Number of reports made since the process started. */
-ARRAYS_API ULONG64 arr_num_informes(void) ARR_NOEXCEPT;
+ARRAYS_API arr_ulong64_t arr_num_informes(void) ARR_NOEXCEPT;
 
 /* ---- Engine queries and switches --------------------------------------------------------- */
 
 /* TRUE when `array` is a live array of a type other than bits. Never reports. For a live
  * array (bit arrays included) fills the outputs that are not NULL: tag, element count (bits
  * for a bit array) and element size. */
-ARRAYS_API BOOL arryprv_es_array_correcto(const ARRAY *array, int32_t *tipo, int32_t *num_elems,
+ARRAYS_API arr_bool_t arryprv_es_array_correcto(const ARRAY *array, int32_t *tipo,
+                                                int32_t *num_elems,
                                           uint64_t *size_elem) ARR_NOEXCEPT;
 
 /* Callbacks that change the array they are called for. While a traversal, a sort, a search, an
@@ -166,7 +189,7 @@ ARRAYS_API BOOL arryprv_es_array_correcto(const ARRAY *array, int32_t *tipo, int
  *
  * Process-wide switch of the lenient loop-guard check (on only while it equals 1).
  * Returns the value stored. */
-ARRAYS_API BOOL arrayprv_set_comprobar_en_bucle(BOOL valor) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arrayprv_set_comprobar_en_bucle(arr_bool_t valor) ARR_NOEXCEPT;
 
 /* ---- Rows ------------------------------------------------------------------------------ */
 
@@ -176,7 +199,8 @@ ARRAYS_API BOOL arrayprv_set_comprobar_en_bucle(BOOL valor) ARR_NOEXCEPT;
  * each row at least one, and each element in the layout of its type (a 2D point as x then y);
  * NULL and 0 past the last row. The address is valid until the array next changes. Reports
  * "(array) != NULL" and "array->mascara_debug == MASCARA_DEBUG" (NULL then). */
-ARRAYS_API void *arr_Fila(const ARRAY *array, ULONG fila, ULONG *num_elems) ARR_NOEXCEPT;
+ARRAYS_API void *arr_Fila(const ARRAY *array, arr_ulong_t fila,
+                          arr_ulong_t *num_elems) ARR_NOEXCEPT;
 
 /* ---- Strings handed across the interface ------------------------------------------------ */
 
@@ -184,9 +208,9 @@ ARRAYS_API void *arr_Fila(const ARRAY *array, ULONG fila, ULONG *num_elems) ARR_
  * and strings the library hands out are released with them. */
 ARRAYS_API char *cad_copia_cadena(const char *cadena) ARR_NOEXCEPT;
 ARRAYS_API void zarpstr_destruye(char **cadena) ARR_NOEXCEPT;
-ARRAYS_API WCHAR *widestr_fun_copia(const WCHAR *cadena) ARR_NOEXCEPT;
-ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
-                                        LONG linea) ARR_NOEXCEPT;
+ARRAYS_API arr_wchar_t *widestr_fun_copia(const arr_wchar_t *cadena) ARR_NOEXCEPT;
+ARRAYS_API void widestr_nousar_destruye(arr_wchar_t **cadena, const char *ubicacion,
+                                        arr_long_t linea) ARR_NOEXCEPT;
 
 /* ---- Scalar families ------------------------------------------------------------------- */
 
@@ -235,9 +259,9 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
 #define ARR_NO(...)
 
 /* Sumar's column applied to a generator M and its arguments: M(delta type, arguments...). */
-#define ARR_DELTA_SHORT(M, ...) M(SHORT, __VA_ARGS__)
-#define ARR_DELTA_LONG(M, ...) M(LONG, __VA_ARGS__)
-#define ARR_DELTA_LONG64(M, ...) M(LONG64, __VA_ARGS__)
+#define ARR_DELTA_SHORT(M, ...) M(arr_short_t, __VA_ARGS__)
+#define ARR_DELTA_LONG(M, ...) M(arr_long_t, __VA_ARGS__)
+#define ARR_DELTA_LONG64(M, ...) M(arr_long64_t, __VA_ARGS__)
 
 /* The predicate parameter of searches and of array equality, by how a family compares. */
 #define ARR_BUSCA_CON_ARR_BOOLEANO(F)
@@ -250,63 +274,70 @@ ARRAYS_API void widestr_nousar_destruye(WCHAR **cadena, const char *ubicacion,
 /*  X(family, value type, tag, compares, AppendN, AumentaTamanyo, ReduceTamanyo,
  *    Sumar (its delta type), Sumatorio, arr_nousar_Recorre) */
 #define ARR_FAMILIAS_ESCALARES(X)                                                                 \
-    X(BOOL, BOOL, elem_BOOL_NO_USAR, ARR_BOOLEANO, ARR_SI, ARR_SI, ARR_SI,                        \
+    X(BOOL, arr_bool_t, elem_BOOL_NO_USAR, ARR_BOOLEANO, ARR_SI, ARR_SI, ARR_SI,                  \
       ARR_NO, ARR_NO, ARR_SI)                                                                     \
-    X(BYTE, BYTE, elem_BYTE_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                          \
+    X(BYTE, arr_byte_t, elem_BYTE_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
       ARR_NO, ARR_NO, ARR_NO)                                                                     \
-    X(UChar, UCHAR, elem_UCHAR_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_SI,                       \
+    X(UChar, arr_uchar_t, elem_UCHAR_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_SI,                 \
       ARR_NO, ARR_NO, ARR_NO)                                                                     \
     X(Char, char, elem_CHAR_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_NO,                          \
       ARR_NO, ARR_NO, ARR_SI)                                                                     \
-    X(Short, SHORT, elem_SHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_NO,                       \
+    X(Short, arr_short_t, elem_SHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_NO,                 \
       ARR_NO, ARR_NO, ARR_NO)                                                                     \
-    X(UShort, USHORT, elem_USHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
+    X(UShort, arr_ushort_t, elem_USHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,              \
       ARR_DELTA_SHORT, ARR_NO, ARR_SI)                                                            \
-    X(Long, LONG, elem_LONG_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                          \
+    X(Long, arr_long_t, elem_LONG_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
       ARR_DELTA_LONG, ARR_NO, ARR_NO)                                                             \
-    X(ULong, ULONG, elem_ULONG_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,                       \
+    X(ULong, arr_ulong_t, elem_ULONG_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,                 \
       ARR_DELTA_LONG, ARR_SI, ARR_SI)                                                             \
-    X(Long64, LONG64, elem_LONG64_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
+    X(Long64, arr_long64_t, elem_LONG64_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,              \
       ARR_DELTA_LONG64, ARR_NO, ARR_NO)                                                           \
-    X(ULong64, ULONG64, elem_ULONG64_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,                 \
+    X(ULong64, arr_ulong64_t, elem_ULONG64_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,           \
       ARR_DELTA_LONG64, ARR_SI, ARR_SI)                                                           \
     X(Double, double, elem_DOUBLE_NO_USAR, ARR_REAL, ARR_SI, ARR_SI, ARR_SI,                      \
       ARR_NO, ARR_SI, ARR_SI)
 
 #define ARR_DECLARA_SUMAR(D, F)                                                                   \
-    ARRAYS_API void arr_Sumar##F(ARRAY *array, ULONG pos, D delta) ARR_NOEXCEPT;
+    ARRAYS_API void arr_Sumar##F(ARRAY *array, arr_ulong_t pos, D delta) ARR_NOEXCEPT;
 
 #define ARR_DECLARA_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, SUMAR,          \
                                     SUMATORIO, RECORRE)                                           \
-    typedef BOOL (*arr_accion_##F)(T * elemento, void *datos);                                    \
-    typedef BOOL (*arr_igualdad_##F)(T a, T b);                                                   \
+    typedef arr_bool_t (*arr_accion_##F)(T * elemento, void *datos);                              \
+    typedef arr_bool_t (*arr_igualdad_##F)(T a, T b);                                             \
     typedef int (*arr_orden_##F)(T a, T b);                                                       \
-    ARRAYS_API ARRAY *arr_Crea##F(ULONG tamanyo_inicial) ARR_NOEXCEPT;                            \
+    ARRAYS_API ARRAY *arr_Crea##F(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;                      \
     ARRAYS_API void arr_Destruye##F(ARRAY **array) ARR_NOEXCEPT;                                  \
-    ARRAYS_API ULONG arr_NumElems##F(const ARRAY *array) ARR_NOEXCEPT;                            \
+    ARRAYS_API arr_ulong_t arr_NumElems##F(const ARRAY *array) ARR_NOEXCEPT;                      \
     ARRAYS_API void arr_Append##F(ARRAY *array, T valor) ARR_NOEXCEPT;                            \
-    APPENDN(ARRAYS_API void arr_AppendN##F##s(ARRAY *array, ULONG num_veces, T valor) ARR_NOEXCEPT;) \
-    ARRAYS_API void arr_Insertar##F(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;               \
-    ARRAYS_API void arr_Borrar##F(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                          \
-    ARRAYS_API T arr_Get##F(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                                \
-    ARRAYS_API void arr_Set##F(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;                    \
+    APPENDN(ARRAYS_API void arr_AppendN##F##s(ARRAY *array, arr_ulong_t num_veces,                \
+            T valor) ARR_NOEXCEPT;)                                                               \
+    ARRAYS_API void arr_Insertar##F(ARRAY *array, arr_ulong_t pos, T valor) ARR_NOEXCEPT;         \
+    ARRAYS_API void arr_Borrar##F(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;                    \
+    ARRAYS_API T arr_Get##F(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;                          \
+    ARRAYS_API void arr_Set##F(ARRAY *array, arr_ulong_t pos, T valor) ARR_NOEXCEPT;              \
     ARRAYS_API void arr_Inicializa##F(ARRAY *array, T valor) ARR_NOEXCEPT;                        \
-    ARRAYS_API ULONG arr_Buscar##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F)) ARR_NOEXCEPT; \
-    ARRAYS_API ULONG arr_BuscarUnico##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F)) ARR_NOEXCEPT; \
-    ARRAYS_API BOOL arr_Existe##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),               \
-                                  ULONG *posicion) ARR_NOEXCEPT;                                  \
-    ARRAYS_API BOOL arr_ExisteUnico##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),          \
-                                       ULONG *posicion) ARR_NOEXCEPT;                             \
+    ARRAYS_API arr_ulong_t arr_Buscar##F(ARRAY *array,                                            \
+                                         T valor ARR_BUSCA_CON_##COMPARA(F)) ARR_NOEXCEPT;        \
+    ARRAYS_API arr_ulong_t arr_BuscarUnico##F(ARRAY *array,                                       \
+                                              T valor ARR_BUSCA_CON_##COMPARA(F)) ARR_NOEXCEPT;   \
+    ARRAYS_API arr_bool_t arr_Existe##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),         \
+                                  arr_ulong_t *posicion) ARR_NOEXCEPT;                            \
+    ARRAYS_API arr_bool_t arr_ExisteUnico##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),    \
+                                       arr_ulong_t *posicion) ARR_NOEXCEPT;                       \
     ARRAYS_API void arr_QSort##F(ARRAY *array, arr_orden_##F comparador) ARR_NOEXCEPT;            \
-    ARRAYS_API BOOL arr_SonIguales##F(ARRAY *array1, ARRAY *array2 ARR_IGUALES_CON_##COMPARA(F)) ARR_NOEXCEPT; \
+    ARRAYS_API arr_bool_t arr_SonIguales##F(ARRAY *array1,                                        \
+                                            ARRAY *array2 ARR_IGUALES_CON_##COMPARA(F)) ARR_NOEXCEPT; \
     ARRAYS_API ARRAY *arr_Copia##F(const ARRAY *array) ARR_NOEXCEPT;                              \
     ARRAYS_API void arr_Concatena##F(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;                 \
-    AUMENTA(ARRAYS_API void arr_AumentaTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;) \
-    REDUCE(ARRAYS_API void arr_ReduceTamanyo##F(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;)   \
+    AUMENTA(ARRAYS_API void arr_AumentaTamanyo##F(ARRAY *array,                                   \
+            arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;)                                             \
+    REDUCE(ARRAYS_API void arr_ReduceTamanyo##F(ARRAY *array,                                     \
+           arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;)                                              \
     SUMAR(ARR_DECLARA_SUMAR, F)                                                                   \
     SUMATORIO(ARRAYS_API T arr_Sumatorio##F(const ARRAY *array) ARR_NOEXCEPT;)                    \
-    RECORRE(ARRAYS_API void arr_nousar_Recorre##F(ARRAY *array, arr_accion_##F accion, void *datos, \
-                                                  const char *ubicacion, LONG linea) ARR_NOEXCEPT;)
+    RECORRE(ARRAYS_API void arr_nousar_Recorre##F(ARRAY *array, arr_accion_##F accion,            \
+            void *datos,                                                                          \
+                                                  const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;)
 
 ARR_FAMILIAS_ESCALARES(ARR_DECLARA_FAMILIA_ESCALAR)
 
@@ -316,20 +347,20 @@ ARRAYS_API void arr_InvertirBOOL(ARRAY *array) ARR_NOEXCEPT;
 /* The smallest and the greatest element and their first positions, written through the pointers
  * that are not NULL. An empty array is reported ("array->num_elems > 0"); it, and an array of
  * NaNs only, give DBL_MAX, -DBL_MAX and ARR_ULONG_MAX for both positions. */
-ARRAYS_API void arr_MinimoMaximoDouble(const ARRAY *array, double *minimo, ULONG *pos_minimo,
-                                       double *maximo, ULONG *pos_maximo) ARR_NOEXCEPT;
+ARRAYS_API void arr_MinimoMaximoDouble(const ARRAY *array, double *minimo, arr_ulong_t *pos_minimo,
+                                       double *maximo, arr_ulong_t *pos_maximo) ARR_NOEXCEPT;
 
 /* TRUE when both arrays have the same count and no pair of elements at the same position
  * differs by more than `tolerancia` (a NaN difference counts as equal). */
-ARRAYS_API BOOL arr_SonIgualesDoubleConTolerancia(const ARRAY *array1, const ARRAY *array2,
+ARRAYS_API arr_bool_t arr_SonIgualesDoubleConTolerancia(const ARRAY *array1, const ARRAY *array2,
                                                   double tolerancia) ARR_NOEXCEPT;
 /* The same for two pointer arrays (arr_CreaPunteroConTipo) whose elements are Double arrays,
  * compared pair by pair up to the first unequal pair. */
-ARRAYS_API BOOL arr_SonIgualesArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
+ARRAYS_API arr_bool_t arr_SonIgualesArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
                                                                const ARRAY *array2,
                                                                double tolerancia) ARR_NOEXCEPT;
 /* The same one level deeper: pointer arrays whose elements are such pointer arrays. */
-ARRAYS_API BOOL arr_SonIgualesArrArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
+ARRAYS_API arr_bool_t arr_SonIgualesArrArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
                                                                   const ARRAY *array2,
                                                                   double tolerancia) ARR_NOEXCEPT;
 
@@ -363,12 +394,12 @@ ARRAYS_API void arr_cambio_precio_pesetas_a_euros(ARRAY *array) ARR_NOEXCEPT;
     X(arulong64_reduce_tamanyo)
 
 #define ARR_DECLARA_DESTRUYE(nombre) ARRAYS_API void nombre(ARRAY **array) ARR_NOEXCEPT;
-#define ARR_DECLARA_NUMELEMS(nombre) ARRAYS_API ULONG nombre(const ARRAY *array) ARR_NOEXCEPT;
+#define ARR_DECLARA_NUMELEMS(nombre) ARRAYS_API arr_ulong_t nombre(const ARRAY *array) ARR_NOEXCEPT;
 #define ARR_DECLARA_COPIA(nombre) ARRAYS_API ARRAY *nombre(const ARRAY *array) ARR_NOEXCEPT;
 #define ARR_DECLARA_CONCATENA(nombre)                                                             \
     ARRAYS_API void nombre(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
 #define ARR_DECLARA_TAMANYO(nombre)                                                               \
-    ARRAYS_API void nombre(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;
+    ARRAYS_API void nombre(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
 ARR_NOMBRES_DESTRUYE(ARR_DECLARA_DESTRUYE)
 ARR_NOMBRES_NUMELEMS(ARR_DECLARA_NUMELEMS)
 ARR_NOMBRES_COPIA(ARR_DECLARA_COPIA)
@@ -388,16 +419,16 @@ ARR_NOMBRES_REDUCE(ARR_DECLARA_TAMANYO)
  */
 
 /* A new array of n false bits. */
-ARRAYS_API ARRAY *arr_CreaBIT(ULONG n) ARR_NOEXCEPT;
+ARRAYS_API ARRAY *arr_CreaBIT(arr_ulong_t n) ARR_NOEXCEPT;
 /* The bit at pos: 1 or 0. A pos not below the bit count is reported ("pos < array->num_bits");
  * the byte that would hold it is still read when it exists. */
-ARRAYS_API BOOL arr_GetBIT(const ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arr_GetBIT(const ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
 /* Sets the bit at pos for a non-zero valor, clears it for FALSO; pos as in arr_GetBIT. */
-ARRAYS_API void arr_SetBIT(ARRAY *array, ULONG pos, BOOL valor) ARR_NOEXCEPT;
+ARRAYS_API void arr_SetBIT(ARRAY *array, arr_ulong_t pos, arr_bool_t valor) ARR_NOEXCEPT;
 /* Appends one bit. */
-ARRAYS_API void arr_AppendBIT(ARRAY *array, BOOL valor) ARR_NOEXCEPT;
+ARRAYS_API void arr_AppendBIT(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
 /* Sets every bit (whole bytes, so also the spare bits of the last byte) to valor. */
-ARRAYS_API void arr_InicializaBIT(ARRAY *array, BOOL valor) ARR_NOEXCEPT;
+ARRAYS_API void arr_InicializaBIT(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
 
 /* ---- The arulong and arulong64 names ------------------------------------------------------ */
 
@@ -420,24 +451,26 @@ ARRAYS_API void arr_InicializaBIT(ARRAY *array, BOOL valor) ARR_NOEXCEPT;
     /* A new empty array, as arr_CreaF(0). */                                                     \
     ARRAYS_API ARRAY *P##_crea(void) ARR_NOEXCEPT;                                                \
     /* Appends valor num_valores times; a count below 2 is reported ("num_valores > 1"). */       \
-    ARRAYS_API void P##_append_n(ARRAY *array, ULONG num_valores, T valor) ARR_NOEXCEPT;          \
+    ARRAYS_API void P##_append_n(ARRAY *array, arr_ulong_t num_valores, T valor) ARR_NOEXCEPT;    \
     ARRAYS_API void P##_append(ARRAY *array, T valor) ARR_NOEXCEPT;                               \
-    ARRAYS_API void P##_inserta(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;                   \
-    ARRAYS_API void P##_borra(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                              \
-    ARRAYS_API T P##_get(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                                   \
-    ARRAYS_API void P##_set(ARRAY *array, ULONG pos, T valor) ARR_NOEXCEPT;                       \
-    ARRAYS_API ULONG P##_busca(ARRAY *array, T valor, arr_igualdad_##F igualdad) ARR_NOEXCEPT;    \
-    ARRAYS_API ULONG P##_busca_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad)            \
+    ARRAYS_API void P##_inserta(ARRAY *array, arr_ulong_t pos, T valor) ARR_NOEXCEPT;             \
+    ARRAYS_API void P##_borra(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;                        \
+    ARRAYS_API T P##_get(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;                             \
+    ARRAYS_API void P##_set(ARRAY *array, arr_ulong_t pos, T valor) ARR_NOEXCEPT;                 \
+    ARRAYS_API arr_ulong_t P##_busca(ARRAY *array, T valor,                                       \
+                                     arr_igualdad_##F igualdad) ARR_NOEXCEPT;                     \
+    ARRAYS_API arr_ulong_t P##_busca_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad)      \
         ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API BOOL P##_existe(ARRAY *array, T valor, arr_igualdad_##F igualdad, ULONG *posicion) \
+    ARRAYS_API arr_bool_t P##_existe(ARRAY *array, T valor, arr_igualdad_##F igualdad,            \
+                                     arr_ulong_t *posicion)                                       \
         ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API BOOL P##_existe_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad,            \
-                                     ULONG *posicion) ARR_NOEXCEPT;                               \
+    ARRAYS_API arr_bool_t P##_existe_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad,      \
+                                     arr_ulong_t *posicion) ARR_NOEXCEPT;                         \
     ARRAYS_API void P##_qsort(ARRAY *array, arr_orden_##F comparador) ARR_NOEXCEPT;               \
-    ARRAYS_API BOOL P##_iguales(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+    ARRAYS_API arr_bool_t P##_iguales(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
 
-ARR_DECLARA_ARULONG(arulong, ULong, ULONG)
-ARR_DECLARA_ARULONG(arulong64, ULong64, ULONG64)
+ARR_DECLARA_ARULONG(arulong, ULong, arr_ulong_t)
+ARR_DECLARA_ARULONG(arulong64, ULong64, arr_ulong64_t)
 
 /* ---- Narrow and wide string arrays ---------------------------------------------------------- */
 
@@ -525,9 +558,9 @@ ARR_DECLARA_ARULONG(arulong64, ULong64, ULONG64)
 
 /* Callbacks of a string family S ("" or _u) of character type C. */
 #define ARR_DECLARA_CALLBACKS_CADENA(S, C)                                                        \
-    typedef BOOL (*arr_igualdad_CADENA##S)(const C *a, const C *b);                               \
+    typedef arr_bool_t (*arr_igualdad_CADENA##S)(const C *a, const C *b);                         \
     typedef int (*arr_orden_CADENA##S)(const C *a, const C *b);                                   \
-    typedef BOOL (*arr_accion_CADENA##S)(C **cadena, void *datos);
+    typedef arr_bool_t (*arr_accion_CADENA##S)(C **cadena, void *datos);
 
 /* The predicate parameter of a search, by how it compares strings. */
 #define ARR_PREDICADO_CADENA_EXACTA(S)
@@ -536,50 +569,58 @@ ARR_DECLARA_ARULONG(arulong64, ULong64, ULONG64)
 
 /* The five searches of one way of comparing (CLASE: nothing, Ex or MayMin). */
 #define ARR_DECLARA_BUSQUEDAS_CADENA(S, C, CLASE, PREDICADO)                                      \
-    ARRAYS_API ULONG arr_Buscar##CLASE##CADENA##S(ARRAY *array, const C *cadena PREDICADO(S))     \
+    ARRAYS_API arr_ulong_t arr_Buscar##CLASE##CADENA##S(ARRAY *array,                             \
+                                                        const C *cadena PREDICADO(S))             \
         ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API ULONG arr_BuscarSiguiente##CLASE##CADENA##S(ARRAY *array, ULONG pos_inicial,       \
+    ARRAYS_API arr_ulong_t arr_BuscarSiguiente##CLASE##CADENA##S(ARRAY *array,                    \
+            arr_ulong_t pos_inicial,                                                              \
                                                            const C *cadena PREDICADO(S))          \
         ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API ULONG arr_BuscarUnica##CLASE##CADENA##S(ARRAY *array, const C *cadena PREDICADO(S)) \
+    ARRAYS_API arr_ulong_t arr_BuscarUnica##CLASE##CADENA##S(ARRAY *array,                        \
+            const C *cadena PREDICADO(S))                                                         \
         ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API BOOL arr_Existe##CLASE##CADENA##S(ARRAY *array, const C *cadena PREDICADO(S),      \
-                                                 ULONG *posicion) ARR_NOEXCEPT;                   \
-    ARRAYS_API BOOL arr_ExisteUnica##CLASE##CADENA##S(ARRAY *array, const C *cadena PREDICADO(S), \
-                                                      ULONG *posicion) ARR_NOEXCEPT;
+    ARRAYS_API arr_bool_t arr_Existe##CLASE##CADENA##S(ARRAY *array, const C *cadena PREDICADO(S), \
+                                                 arr_ulong_t *posicion) ARR_NOEXCEPT;             \
+    ARRAYS_API arr_bool_t arr_ExisteUnica##CLASE##CADENA##S(ARRAY *array,                         \
+                                                            const C *cadena PREDICADO(S),         \
+                                                      arr_ulong_t *posicion) ARR_NOEXCEPT;
 
 /* Every function of a string family S of character type C that both widths have. */
 #define ARR_DECLARA_FAMILIA_CADENA(S, C)                                                          \
     ARR_DECLARA_CALLBACKS_CADENA(S, C)                                                            \
-    ARRAYS_API ARRAY *arr_CreaCADENA##S(ULONG tamanyo_inicial) ARR_NOEXCEPT;                      \
+    ARRAYS_API ARRAY *arr_CreaCADENA##S(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;                \
     ARRAYS_API void arr_AppendCADENA##S(ARRAY *array, const C *cadena) ARR_NOEXCEPT;              \
     ARRAYS_API void arr_AppendCADENAOriginal##S(ARRAY *array, C **cadena) ARR_NOEXCEPT;           \
-    ARRAYS_API void arr_AppendNCADENAs##S(ARRAY *array, ULONG num_veces, const C *cadena)         \
+    ARRAYS_API void arr_AppendNCADENAs##S(ARRAY *array, arr_ulong_t num_veces, const C *cadena)   \
         ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API void arr_InsertarCADENA##S(ARRAY *array, ULONG pos, const C *cadena) ARR_NOEXCEPT; \
-    ARRAYS_API void arr_BorrarCADENA##S(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                    \
-    ARRAYS_API const C *arr_GetCADENA##S(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                   \
-    ARRAYS_API C *arr_GetCopiaCADENA##S(ARRAY *array, ULONG pos) ARR_NOEXCEPT;                    \
-    ARRAYS_API void arr_SetCADENA##S(ARRAY *array, ULONG pos, const C *cadena) ARR_NOEXCEPT;      \
-    ARRAYS_API void arr_SetCADENAOriginal##S(ARRAY *array, ULONG pos, C **cadena) ARR_NOEXCEPT;   \
+    ARRAYS_API void arr_InsertarCADENA##S(ARRAY *array, arr_ulong_t pos,                          \
+                                          const C *cadena) ARR_NOEXCEPT;                          \
+    ARRAYS_API void arr_BorrarCADENA##S(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;              \
+    ARRAYS_API const C *arr_GetCADENA##S(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;             \
+    ARRAYS_API C *arr_GetCopiaCADENA##S(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;              \
+    ARRAYS_API void arr_SetCADENA##S(ARRAY *array, arr_ulong_t pos, const C *cadena) ARR_NOEXCEPT; \
+    ARRAYS_API void arr_SetCADENAOriginal##S(ARRAY *array, arr_ulong_t pos,                       \
+                                             C **cadena) ARR_NOEXCEPT;                            \
     ARRAYS_API void arr_QSortCADENA##S(ARRAY *array, arr_orden_CADENA##S comparador) ARR_NOEXCEPT; \
-    ARRAYS_API BOOL arr_SonIgualesCADENA##S(ARRAY *array1, ARRAY *array2,                         \
+    ARRAYS_API arr_bool_t arr_SonIgualesCADENA##S(ARRAY *array1, ARRAY *array2,                   \
                                             arr_igualdad_CADENA##S igualdad) ARR_NOEXCEPT;        \
-    ARRAYS_API BOOL arr_SonIgualesExactamenteCADENA##S(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT; \
+    ARRAYS_API arr_bool_t arr_SonIgualesExactamenteCADENA##S(ARRAY *array1,                       \
+            ARRAY *array2) ARR_NOEXCEPT;                                                          \
     ARRAYS_API C *arr_cadena_de_referencias##S(ARRAY *array, C inicio, C separador, C fin)        \
         ARR_NOEXCEPT;                                                                             \
     ARRAYS_API void nousar_RecorreCADENA##S(ARRAY *array, arr_accion_CADENA##S accion,            \
-                                            void *datos, const char *ubicacion, LONG linea)       \
+                                            void *datos, const char *ubicacion, arr_long_t linea) \
         ARR_NOEXCEPT;                                                                             \
     ARR_DECLARA_BUSQUEDAS_CADENA(S, C, , ARR_PREDICADO_CADENA_EXACTA)                             \
     ARR_DECLARA_BUSQUEDAS_CADENA(S, C, Ex, ARR_PREDICADO_CADENA_EX)                               \
     ARR_DECLARA_BUSQUEDAS_CADENA(S, C, MayMin, ARR_PREDICADO_CADENA_MAYMIN)
 
 ARR_DECLARA_FAMILIA_CADENA(, char)
-ARR_DECLARA_FAMILIA_CADENA(_u, WCHAR)
+ARR_DECLARA_FAMILIA_CADENA(_u, arr_wchar_t)
 
 /* The narrow growth; see above. */
-ARRAYS_API ULONG arr_AumentaTamanyoCADENA(ARRAY *array, ULONG nuevo_tamanyo) ARR_NOEXCEPT;
+ARRAYS_API arr_ulong_t arr_AumentaTamanyoCADENA(ARRAY *array,
+                                                arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
 
 /* ---- Typed pointer and structure arrays ----------------------------------------------------- */
 /*
@@ -596,7 +637,7 @@ ARRAYS_API ULONG arr_AumentaTamanyoCADENA(ARRAY *array, ULONG nuevo_tamanyo) ARR
  */
 
 /* Equality of a search: the element (stored pointer) against the caller's datum; non-zero if equal. */
-typedef BOOL (*arr_igualdad_PunteroConTipo)(const void *elemento, const void *dato);
+typedef arr_bool_t (*arr_igualdad_PunteroConTipo)(const void *elemento, const void *dato);
 /* Order of the sort (two elements) and of the bisection (element, datum): comparac_*. */
 typedef int (*arr_orden_PunteroConTipo)(const void *a, const void *b);
 /* Frees the structure in the slot (which may hold NULL) and sets the slot to NULL. */
@@ -606,13 +647,14 @@ typedef void *(*arr_copia_EstructuraConTipo)(const void *elemento);
 /* Actions of the traversals: the stored pointer; its address and the caller's datos; the stored
  * pointer and datos. The BOOL result is ignored. */
 typedef void (*arr_opera_PunteroConTipo)(void *elemento);
-typedef BOOL (*arr_accion_PunteroConTipo)(void **elemento, void *datos);
+typedef arr_bool_t (*arr_accion_PunteroConTipo)(void **elemento, void *datos);
 typedef void (*arr_accion_EstructuraSimpleConTipo)(void *elemento, void *datos);
 
 /* A pointer array of n NULL elements in rows of long_fila_en_bytes bytes (a row holds
  * long_fila_en_bytes / 8 pointers, which must be above 0); arr_CreaPunteroConTipo uses 2048. */
-ARRAYS_API ARRAY *arr_CreaPunteroConTipoEx(ULONG n, ULONG long_fila_en_bytes) ARR_NOEXCEPT;
-ARRAYS_API ARRAY *arr_CreaPunteroConTipo(ULONG n) ARR_NOEXCEPT;
+ARRAYS_API ARRAY *arr_CreaPunteroConTipoEx(arr_ulong_t n,
+                                           arr_ulong_t long_fila_en_bytes) ARR_NOEXCEPT;
+ARRAYS_API ARRAY *arr_CreaPunteroConTipo(arr_ulong_t n) ARR_NOEXCEPT;
 
 /* Destroys a structure array: calls libera (if not NULL) on every slot in order, NULL slots
  * included, then frees the array and sets *array to NULL. The Const form frees no structure. */
@@ -629,56 +671,58 @@ ARRAYS_API void arr_DestruyeEstructurasConstArrayConTipo(ARRAY **array_de_arrays
  * is not freed. */
 ARRAYS_API void arr_AppendPunteroConTipo(ARRAY *array, void *puntero) ARR_NOEXCEPT;
 ARRAYS_API void arr_AppendPunteroConstConTipo(ARRAY *array, const void *puntero) ARR_NOEXCEPT;
-ARRAYS_API void arr_InsertarPunteroConTipo(ARRAY *array, ULONG pos, void *puntero) ARR_NOEXCEPT;
-ARRAYS_API void arr_InsertarPunteroConstConTipo(ARRAY *array, ULONG pos,
+ARRAYS_API void arr_InsertarPunteroConTipo(ARRAY *array, arr_ulong_t pos,
+                                           void *puntero) ARR_NOEXCEPT;
+ARRAYS_API void arr_InsertarPunteroConstConTipo(ARRAY *array, arr_ulong_t pos,
                                                 const void *puntero) ARR_NOEXCEPT;
-ARRAYS_API void arr_SetPunteroConTipo(ARRAY *array, ULONG pos, void *puntero) ARR_NOEXCEPT;
-ARRAYS_API void arr_SetPunteroConstConTipo(ARRAY *array, ULONG pos, const void *puntero) ARR_NOEXCEPT;
+ARRAYS_API void arr_SetPunteroConTipo(ARRAY *array, arr_ulong_t pos, void *puntero) ARR_NOEXCEPT;
+ARRAYS_API void arr_SetPunteroConstConTipo(ARRAY *array, arr_ulong_t pos,
+                                           const void *puntero) ARR_NOEXCEPT;
 /* Stores an inner array at pos of an array of arrays (arr_SetPunteroConstConTipo). */
-ARRAYS_API void arr_SetPunteroConstArrayConTipo(ARRAY *array_de_arrays, ULONG pos,
+ARRAYS_API void arr_SetPunteroConstArrayConTipo(ARRAY *array_de_arrays, arr_ulong_t pos,
                                                 const ARRAY *array) ARR_NOEXCEPT;
 /* The pointer stored at pos; NULL when there is no such element. */
-ARRAYS_API void *arr_GetPunteroConTipo(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+ARRAYS_API void *arr_GetPunteroConTipo(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
 /* Removes the element at pos without freeing it (one function under both names). */
-ARRAYS_API void arr_BorrarPuntero(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
-ARRAYS_API void arr_BorrarPunteroConst(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+ARRAYS_API void arr_BorrarPuntero(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+ARRAYS_API void arr_BorrarPunteroConst(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
 /* Frees the structure at pos through libera (required), then removes the element. */
-ARRAYS_API void arr_BorrarEstructuraConTipo(ARRAY *array, ULONG pos,
+ARRAYS_API void arr_BorrarEstructuraConTipo(ARRAY *array, arr_ulong_t pos,
                                             arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
 /* Destroys the inner array at pos with arr_DestruyeEstructurasConTipo and libera (required),
  * then removes the element. */
-ARRAYS_API void arr_BorrarEstructuraArrayConTipo(ARRAY *array_de_arrays, ULONG pos,
+ARRAYS_API void arr_BorrarEstructuraArrayConTipo(ARRAY *array_de_arrays, arr_ulong_t pos,
                                                  arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
 
 /* Shrinks to nuevo_tamanyo (at most the count): libera (if not NULL) is called on every slot cut
  * off; the Const form frees nothing. */
-ARRAYS_API void arr_ReduceTamanyoEstructurasConTipo(ARRAY *array, ULONG nuevo_tamanyo,
+ARRAYS_API void arr_ReduceTamanyoEstructurasConTipo(ARRAY *array, arr_ulong_t nuevo_tamanyo,
                                                     arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
 ARRAYS_API void arr_ReduceTamanyoEstructurasConTipoConst(ARRAY *array,
-                                                         ULONG nuevo_tamanyo) ARR_NOEXCEPT;
+                                                         arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
 /* Shrinks an array of arrays: destroys each non-NULL inner array cut off, with libera. */
-ARRAYS_API void arr_ReduceEstructurasArrayConTipo(ARRAY *array_de_arrays, ULONG nuevo_tamanyo,
+ARRAYS_API void arr_ReduceEstructurasArrayConTipo(ARRAY *array_de_arrays, arr_ulong_t nuevo_tamanyo,
                                                   arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
 
 /* Position of the first element that is the same pointer (identity, never content), or
  * ARR_ULONG_MAX. */
-ARRAYS_API ULONG arr_BuscarPunteroConTipo(ARRAY *array, const void *puntero) ARR_NOEXCEPT;
+ARRAYS_API arr_ulong_t arr_BuscarPunteroConTipo(ARRAY *array, const void *puntero) ARR_NOEXCEPT;
 /* Position of the first element from 0 (from pos_inicial) for which igualdad(element, dato)
  * holds, or ARR_ULONG_MAX. The Unica forms report a second match and yield the last one. */
-ARRAYS_API ULONG arr_BuscarEstructuraConTipo(ARRAY *array, const void *dato,
+ARRAYS_API arr_ulong_t arr_BuscarEstructuraConTipo(ARRAY *array, const void *dato,
                                              arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-ARRAYS_API ULONG arr_BuscarSiguienteEstructuraConTipo(ARRAY *array, ULONG pos_inicial,
+ARRAYS_API arr_ulong_t arr_BuscarSiguienteEstructuraConTipo(ARRAY *array, arr_ulong_t pos_inicial,
                                                       const void *dato,
                                                       arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-ARRAYS_API ULONG arr_BuscarUnicaEstructuraConTipo(ARRAY *array, const void *dato,
+ARRAYS_API arr_ulong_t arr_BuscarUnicaEstructuraConTipo(ARRAY *array, const void *dato,
                                                   arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
 /* Found? posicion (if not NULL) gets the position or ARR_ULONG_MAX. */
-ARRAYS_API BOOL arr_ExisteEstructuraConTipo(ARRAY *array, const void *dato,
+ARRAYS_API arr_bool_t arr_ExisteEstructuraConTipo(ARRAY *array, const void *dato,
                                             arr_igualdad_PunteroConTipo igualdad,
-                                            ULONG *posicion) ARR_NOEXCEPT;
-ARRAYS_API BOOL arr_ExisteUnicaEstructuraConTipo(ARRAY *array, const void *dato,
+                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arr_ExisteUnicaEstructuraConTipo(ARRAY *array, const void *dato,
                                                  arr_igualdad_PunteroConTipo igualdad,
-                                                 ULONG *posicion) ARR_NOEXCEPT;
+                                                 arr_ulong_t *posicion) ARR_NOEXCEPT;
 /* The element of the unique match (one function under both names); a missing match is
  * reported ("posicion != ULONG_MAX") and yields NULL. */
 ARRAYS_API void *nousar_arr_dame_unica_estructura(ARRAY *array, const void *dato,
@@ -687,14 +731,15 @@ ARRAYS_API void *nousar_arr_dame_unica_estructura_const(ARRAY *array, const void
                                                         arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
 
 /* Sorts in place with compara (required from 2 elements on); fewer than 2 elements: nothing. */
-ARRAYS_API void arr_QSortPunteroConTipo(ARRAY *array, arr_orden_PunteroConTipo compara) ARR_NOEXCEPT;
+ARRAYS_API void arr_QSortPunteroConTipo(ARRAY *array,
+                                        arr_orden_PunteroConTipo compara) ARR_NOEXCEPT;
 ARRAYS_API void arr_QSortPunteroConTipoConst(ARRAY *array,
                                              arr_orden_PunteroConTipo compara) ARR_NOEXCEPT;
 /* Same count and igualdad(element of array1, element of array2) at every position. */
-ARRAYS_API BOOL arr_SonIgualesPunteroConTipo(ARRAY *array1, ARRAY *array2,
+ARRAYS_API arr_bool_t arr_SonIgualesPunteroConTipo(ARRAY *array1, ARRAY *array2,
                                              arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
 /* Same count and arr_SonIgualesPunteroConTipo of every pair of inner arrays. */
-ARRAYS_API BOOL arr_SonIgualesEstructurasArrayConTipo(ARRAY *array1, ARRAY *array2,
+ARRAYS_API arr_bool_t arr_SonIgualesEstructurasArrayConTipo(ARRAY *array1, ARRAY *array2,
                                                       arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
 
 /* A new array whose elements are copia(element) (copia NULL: the same pointers). */
@@ -708,9 +753,9 @@ ARRAYS_API ARRAY *arr_CopiaEstructurasArrayConTipo(const ARRAY *array_de_arrays,
  * in a report of a traversal of org already running. */
 ARRAYS_API void arr_ConcatenaEstructurasConTipo(ARRAY *dest, ARRAY *org,
                                                 arr_copia_EstructuraConTipo copia,
-                                                const char *ubicacion, LONG linea) ARR_NOEXCEPT;
+                                                const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 ARRAYS_API void arr_ConcatenaEstructurasConTipoConst(ARRAY *dest, ARRAY *org, const char *ubicacion,
-                                                     LONG linea) ARR_NOEXCEPT;
+                                                     arr_long_t linea) ARR_NOEXCEPT;
 /* Appends to dest a copy of each non-NULL inner array of org (NULL ones are skipped). */
 ARRAYS_API void arr_ConcatenaEstructurasArrayConTipo(ARRAY *dest, ARRAY *org_de_arrays,
                                                      arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
@@ -720,10 +765,11 @@ ARRAYS_API void arr_nousar_InvierteOrdenPunteroConTipo(ARRAY *array) ARR_NOEXCEP
 /* Traversals in position order with the array marked busy: accion(stored pointer);
  * accion(&element, datos) (ubicacion and linea name the caller in a report of a traversal
  * already running); accion(stored pointer, datos). */
-ARRAYS_API void arr_RecorrePunteroConTipo(ARRAY *array, arr_opera_PunteroConTipo accion) ARR_NOEXCEPT;
+ARRAYS_API void arr_RecorrePunteroConTipo(ARRAY *array,
+                                          arr_opera_PunteroConTipo accion) ARR_NOEXCEPT;
 ARRAYS_API void arr_RecorreEstructuraConTipo(ARRAY *array, arr_accion_PunteroConTipo accion,
                                              void *datos, const char *ubicacion,
-                                             LONG linea) ARR_NOEXCEPT;
+                                             arr_long_t linea) ARR_NOEXCEPT;
 ARRAYS_API void arr_RecorreEstructuraSimpleConTipo(ARRAY *array,
                                                    arr_accion_EstructuraSimpleConTipo accion,
                                                    void *datos) ARR_NOEXCEPT;
@@ -736,22 +782,22 @@ ARRAYS_API void arr_RecorreEstructuraSimpleConTipo(ARRAY *array,
  */
 /* Where dato goes: the hit, else the first greater element, else the count. ARR_ULONG_MAX when
  * the array or compara cannot be used. */
-ARRAYS_API ULONG arr_DamePosicionInsercionPunteroOrdenadoDicotomicamenteConTipo(
+ARRAYS_API arr_ulong_t arr_DamePosicionInsercionPunteroOrdenadoDicotomicamenteConTipo(
     ARRAY *array, arr_orden_PunteroConTipo compara, const void *dato) ARR_NOEXCEPT;
 /* Inserts dato at that position, even when an equal element exists. */
 ARRAYS_API void arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(
     ARRAY *array, arr_orden_PunteroConTipo compara, void *dato) ARR_NOEXCEPT;
 /* Inserts dato only when no equal element was hit; *encontrado (if not NULL) says whether one was. */
 ARRAYS_API void arr_nousar_InsertarPunteroOrdenadoDicotomicamente_SiNoExiste(
-    ARRAY *array, arr_orden_PunteroConTipo compara, void *dato, BOOL *encontrado) ARR_NOEXCEPT;
+    ARRAY *array, arr_orden_PunteroConTipo compara, void *dato, arr_bool_t *encontrado) ARR_NOEXCEPT;
 /* First and last positions of the run of elements equal to dato, or ARR_ULONG_MAX to both. */
 ARRAYS_API void arr_BuscarEstructuraDicotomicamenteConTipo(
-    ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, ULONG *posPrimerEncontrado,
-    ULONG *posUltimoEncontrado) ARR_NOEXCEPT;
+    ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, arr_ulong_t *posPrimerEncontrado,
+    arr_ulong_t *posUltimoEncontrado) ARR_NOEXCEPT;
 /* TRUE when such a run exists; only then are the positions written, through the non-NULL pointers. */
-ARRAYS_API BOOL arr_ExisteEstructuraDicotomicamenteConTipo(
-    ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, ULONG *posPrimerEncontrado,
-    ULONG *posUltimoEncontrado) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arr_ExisteEstructuraDicotomicamenteConTipo(
+    ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, arr_ulong_t *posPrimerEncontrado,
+    arr_ulong_t *posUltimoEncontrado) ARR_NOEXCEPT;
 
 /* ---- 2D point arrays ------------------------------------------------------------------------ */
 /* A 2D point is x, y (two doubles). Searches and whole-array equality take a predicate, sorting
@@ -761,55 +807,57 @@ ARRAYS_API BOOL arr_ExisteEstructuraDicotomicamenteConTipo(
  * array with private data as well. arr_DestruyePunto2D, arr_NumElemsPunto2D, arr_CopiaPunto2D,
  * arr_ConcatenaPunto2D, arr_AumentaTamanyoPunto2D and arr_ReduceTamanyoPunto2D are the shared
  * functions above. */
-typedef BOOL (*arr_igualdad_Punto2D)(double x1, double y1, double x2, double y2);
+typedef arr_bool_t (*arr_igualdad_Punto2D)(double x1, double y1, double x2, double y2);
 typedef int (*arr_orden_Punto2D)(double x1, double y1, double x2, double y2);
-typedef BOOL (*arr_accion_Punto2D)(double *x, double *y, void *datos);
+typedef arr_bool_t (*arr_accion_Punto2D)(double *x, double *y, void *datos);
 
 /* New array of n points (0, 0). */
-ARRAYS_API ARRAY *arr_CreaPunto2D(ULONG tamanyo_inicial) ARR_NOEXCEPT;
+ARRAYS_API ARRAY *arr_CreaPunto2D(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
 /* Appends the point (x, y). */
 ARRAYS_API void arr_AppendPunto2D(ARRAY *array, double x, double y) ARR_NOEXCEPT;
 /* Inserts (x, y) before pos (pos == count appends). */
-ARRAYS_API void arr_InsertarPunto2D(ARRAY *array, ULONG pos, double x, double y) ARR_NOEXCEPT;
+ARRAYS_API void arr_InsertarPunto2D(ARRAY *array, arr_ulong_t pos, double x, double y) ARR_NOEXCEPT;
 /* Sets every point to (x, y). */
 ARRAYS_API void arr_InicializaPunto2D(ARRAY *array, double x, double y) ARR_NOEXCEPT;
 /* The point at pos into *x and *y (either may be NULL; with both NULL only checks that the point
  * exists). Also reads a point of a private-data array. */
-ARRAYS_API void arr_GetPunto2D(const ARRAY *array, ULONG pos, double *x, double *y) ARR_NOEXCEPT;
+ARRAYS_API void arr_GetPunto2D(const ARRAY *array, arr_ulong_t pos, double *x,
+                               double *y) ARR_NOEXCEPT;
 /* Overwrites the point at pos; on a private-data array its data becomes NULL (the old data is
  * not released). Does not refuse an array inside a traversal. */
-ARRAYS_API void arr_SetPunto2D(ARRAY *array, ULONG pos, double x, double y) ARR_NOEXCEPT;
+ARRAYS_API void arr_SetPunto2D(ARRAY *array, arr_ulong_t pos, double x, double y) ARR_NOEXCEPT;
 /* Deletes the point at pos, of either kind of 2D point array (private data is not released). */
-ARRAYS_API void arr_BorrarPunto2D(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+ARRAYS_API void arr_BorrarPunto2D(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
 /* First position whose point matches (x, y) by the predicate, or ARR_ULONG_MAX. */
-ARRAYS_API ULONG arr_BuscarPunto2D(ARRAY *array, double x, double y,
+ARRAYS_API arr_ulong_t arr_BuscarPunto2D(ARRAY *array, double x, double y,
                                    arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
 /* The same; a second match is reported and the last match is the result. */
-ARRAYS_API ULONG arr_BuscarUnicoPunto2D(ARRAY *array, double x, double y,
+ARRAYS_API arr_ulong_t arr_BuscarUnicoPunto2D(ARRAY *array, double x, double y,
                                         arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
 /* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
-ARRAYS_API BOOL arr_ExistePunto2D(ARRAY *array, double x, double y, arr_igualdad_Punto2D igualdad,
-                                  ULONG *posicion) ARR_NOEXCEPT;
-ARRAYS_API BOOL arr_ExisteUnicoPunto2D(ARRAY *array, double x, double y,
-                                       arr_igualdad_Punto2D igualdad, ULONG *posicion) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arr_ExistePunto2D(ARRAY *array, double x, double y,
+                                        arr_igualdad_Punto2D igualdad,
+                                  arr_ulong_t *posicion) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arr_ExisteUnicoPunto2D(ARRAY *array, double x, double y,
+                                       arr_igualdad_Punto2D igualdad, arr_ulong_t *posicion) ARR_NOEXCEPT;
 /* Sorts in place by the comparator. */
 ARRAYS_API void arr_QSortPunto2D(ARRAY *array, arr_orden_Punto2D comparador) ARR_NOEXCEPT;
 /* Same count and every pair of points equal by the predicate. */
-ARRAYS_API BOOL arr_SonIgualesPunto2D(ARRAY *array1, ARRAY *array2,
+ARRAYS_API arr_bool_t arr_SonIgualesPunto2D(ARRAY *array1, ARRAY *array2,
                                       arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
 /* Same count and, point by point, |x1 - x2| <= tolerancia and |y1 - y2| <= tolerancia (a square
  * per coordinate, not a distance). Either array may carry private data. */
-ARRAYS_API BOOL arr_ArraysDePunto2DIguales(const ARRAY *array1, const ARRAY *array2,
+ARRAYS_API arr_bool_t arr_ArraysDePunto2DIguales(const ARRAY *array1, const ARRAY *array2,
                                            double tolerancia) ARR_NOEXCEPT;
 /* array1 and array2 are typed pointer arrays whose elements are 2D point arrays: same count
  * and the point arrays at each position equal by arr_ArraysDePunto2DIguales. */
-ARRAYS_API BOOL arr_SonIgualesArrPunteroArrPunto2DConTolerancia(const ARRAY *array1,
+ARRAYS_API arr_bool_t arr_SonIgualesArrPunteroArrPunto2DConTolerancia(const ARRAY *array1,
                                                                 const ARRAY *array2,
                                                                 double tolerancia) ARR_NOEXCEPT;
 /* Calls accion(&x, &y, datos) for every point in order; ubicacion and linea name the caller in
  * a report of a traversal already running. */
 ARRAYS_API void arr_nousar_RecorrePunto2D(ARRAY *array, arr_accion_Punto2D accion, void *datos,
-                                          const char *ubicacion, LONG linea) ARR_NOEXCEPT;
+                                          const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /* Moves every point by (dx, dy). */
 ARRAYS_API void arr_MoverPunto2D(ARRAY *array, double dx, double dy) ARR_NOEXCEPT;
 /* Multiplies both coordinates of every point by factor. */
@@ -825,7 +873,7 @@ ARRAYS_API void arr_GirarPunto2D(ARRAY *array, double xc, double yc, double angu
 ARRAYS_API void arr_GetMinimaxPunto2D(const ARRAY *array, double *xmin, double *ymin,
                                       double *xmax, double *ymax) ARR_NOEXCEPT;
 /* Segment i of the closed polyline: point i and point i + 1, or point 0 after the last. */
-ARRAYS_API void arr_GetSegmentoPunto2D(const ARRAY *array, ULONG i, double *x1, double *y1,
+ARRAYS_API void arr_GetSegmentoPunto2D(const ARRAY *array, arr_ulong_t i, double *x1, double *y1,
                                        double *x2, double *y2) ARR_NOEXCEPT;
 /* A new array with the points in reverse order; the argument is unchanged. */
 ARRAYS_API ARRAY *arr_InvertirPunto2D(const ARRAY *array) ARR_NOEXCEPT;
@@ -837,48 +885,49 @@ ARRAYS_API ARRAY *arr_InvertirPunto2D(const ARRAY *array) ARR_NOEXCEPT;
  * given to the copy and concatenation, and must be NULL when the array is destroyed or shrunk
  * otherwise. Use arr_NumElemsPunto2D for the count and arr_GetPunto2D / arr_SetPunto2D /
  * arr_BorrarPunto2D on these arrays too. */
-typedef BOOL (*arr_igualdad_Punto2DXPriv)(double x1, double y1, void *datos1, double x2,
+typedef arr_bool_t (*arr_igualdad_Punto2DXPriv)(double x1, double y1, void *datos1, double x2,
                                           double y2, void *datos2);
 typedef int (*arr_orden_Punto2DXPriv)(double x1, double y1, void *datos1, double x2, double y2,
                                       void *datos2);
-typedef BOOL (*arr_accion_Punto2DXPriv)(double *x, double *y, void **datos_punto, void *datos);
+typedef arr_bool_t (*arr_accion_Punto2DXPriv)(double *x, double *y, void **datos_punto,
+                    void *datos);
 /* Returns the copy of a point's data. */
 typedef void *(*arr_copia_datos_Punto2DXPriv)(void *datos);
 /* Releases a point's data and sets *datos to NULL. */
 typedef void (*arr_destruye_datos_Punto2DXPriv)(void **datos);
 
 /* New array of n points (0, 0) with NULL data. */
-ARRAYS_API ARRAY *arr_CreaPunto2DXPriv(ULONG tamanyo_inicial) ARR_NOEXCEPT;
+ARRAYS_API ARRAY *arr_CreaPunto2DXPriv(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
 /* Appends (x, y) with its data. */
 ARRAYS_API void arr_AppendPunto2DXPriv(ARRAY *array, double x, double y, void *datos) ARR_NOEXCEPT;
 /* Inserts (x, y, datos) before pos (pos == count appends). */
-ARRAYS_API void arr_InsertarPunto2DXPriv(ARRAY *array, ULONG pos, double x, double y,
+ARRAYS_API void arr_InsertarPunto2DXPriv(ARRAY *array, arr_ulong_t pos, double x, double y,
                                          void *datos) ARR_NOEXCEPT;
 /* The point at pos: x and y must not be NULL; datos may be. */
-ARRAYS_API void arr_GetPunto2DXPriv(const ARRAY *array, ULONG pos, double *x, double *y,
+ARRAYS_API void arr_GetPunto2DXPriv(const ARRAY *array, arr_ulong_t pos, double *x, double *y,
                                     void **datos) ARR_NOEXCEPT;
 /* Overwrites the point at pos, data included; the old data is not released. */
-ARRAYS_API void arr_SetPunto2DXPriv(ARRAY *array, ULONG pos, double x, double y,
+ARRAYS_API void arr_SetPunto2DXPriv(ARRAY *array, arr_ulong_t pos, double x, double y,
                                     void *datos) ARR_NOEXCEPT;
 /* Deletes the point at pos; its data is not released. */
-ARRAYS_API void arr_BorrarPunto2DXPriv(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+ARRAYS_API void arr_BorrarPunto2DXPriv(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
 /* First position whose point matches (x, y, datos) by the predicate, or ARR_ULONG_MAX. */
-ARRAYS_API ULONG arr_BuscarPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
+ARRAYS_API arr_ulong_t arr_BuscarPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
                                         arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
 /* The same; a second match is reported and the last match is the result. */
-ARRAYS_API ULONG arr_BuscarUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
+ARRAYS_API arr_ulong_t arr_BuscarUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
                                              arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
 /* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
-ARRAYS_API BOOL arr_ExistePunto2DXPriv(ARRAY *array, double x, double y, void *datos,
+ARRAYS_API arr_bool_t arr_ExistePunto2DXPriv(ARRAY *array, double x, double y, void *datos,
                                        arr_igualdad_Punto2DXPriv igualdad,
-                                       ULONG *posicion) ARR_NOEXCEPT;
-ARRAYS_API BOOL arr_ExisteUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
+                                       arr_ulong_t *posicion) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arr_ExisteUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
                                             arr_igualdad_Punto2DXPriv igualdad,
-                                            ULONG *posicion) ARR_NOEXCEPT;
+                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
 /* Sorts in place by the comparator. */
 ARRAYS_API void arr_QSortPunto2DXPriv(ARRAY *array, arr_orden_Punto2DXPriv comparador) ARR_NOEXCEPT;
 /* Same count and every pair of points equal by the predicate. */
-ARRAYS_API BOOL arr_SonIgualesPunto2DXPriv(ARRAY *array1, ARRAY *array2,
+ARRAYS_API arr_bool_t arr_SonIgualesPunto2DXPriv(ARRAY *array1, ARRAY *array2,
                                            arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
 /* Calls accion(&x, &y, &datos_punto, datos) for every point in order. */
 ARRAYS_API void arr_RecorrePunto2DXPriv(ARRAY *array, arr_accion_Punto2DXPriv accion,
@@ -899,76 +948,77 @@ ARRAYS_API void arr_GirarPunto2DXPriv(ARRAY *array, double xc, double yc,
  * reported, as such arrays are not meant to be reversed. */
 ARRAYS_API ARRAY *arr_InvertirPunto2DXPriv(const ARRAY *array) ARR_NOEXCEPT;
 /* TRUE when some point has data that is not NULL. */
-ARRAYS_API BOOL arr_TieneDatosExtrasAlgunPunto2DXPriv(ARRAY *array) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arr_TieneDatosExtrasAlgunPunto2DXPriv(ARRAY *array) ARR_NOEXCEPT;
 /* Applies destruye (when not NULL) to every point's data, then destroys the array and sets
  * *array to NULL. */
 ARRAYS_API void arr_DestruyePunto2DXPriv(ARRAY **array,
                                          arr_destruye_datos_Punto2DXPriv destruye) ARR_NOEXCEPT;
 /* Shrinks to nuevo_tamanyo points, applying destruye (when not NULL) to the data of the points
  * cut off. */
-ARRAYS_API void arr_ReduceTamanyoPunto2DXPriv(ARRAY *array, ULONG nuevo_tamanyo,
+ARRAYS_API void arr_ReduceTamanyoPunto2DXPriv(ARRAY *array, arr_ulong_t nuevo_tamanyo,
                                               arr_destruye_datos_Punto2DXPriv destruye) ARR_NOEXCEPT;
 /* A new array with the points of array; each point's data is copia(datos), or the same pointer
  * when copia is NULL (then only one of the two arrays may release it). ubicacion and linea name
  * the caller in a report of a traversal already running. */
 ARRAYS_API ARRAY *arr_CopiaPunto2DXPriv_nousar(ARRAY *array, arr_copia_datos_Punto2DXPriv copia,
-                                               const char *ubicacion, LONG linea) ARR_NOEXCEPT;
+                                               const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /* Appends org's points to dest, with data as in arr_CopiaPunto2DXPriv_nousar. */
 ARRAYS_API void arr_ConcatenaPunto2DXPriv_nousar(ARRAY *dest, ARRAY *org,
                                                  arr_copia_datos_Punto2DXPriv copia,
-                                                 const char *ubicacion, LONG linea) ARR_NOEXCEPT;
+                                                 const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 
 /* ---- 3D point arrays ------------------------------------------------------------------------ */
 /* A 3D point is x, y, z (three doubles). Searches and equality take a predicate, sorting an
  * ordering comparator; neither has a default. arr_DestruyePunto3D, arr_NumElemsPunto3D,
  * arr_CopiaPunto3D, arr_ConcatenaPunto3D, arr_AumentaTamanyoPunto3D and arr_ReduceTamanyoPunto3D
  * are the shared functions above. */
-typedef BOOL (*arr_igualdad_Punto3D)(double x1, double y1, double z1, double x2, double y2,
+typedef arr_bool_t (*arr_igualdad_Punto3D)(double x1, double y1, double z1, double x2, double y2,
                                      double z2);
 typedef int (*arr_orden_Punto3D)(double x1, double y1, double z1, double x2, double y2, double z2);
-typedef BOOL (*arr_accion_Punto3D)(double *x, double *y, double *z, void *datos);
+typedef arr_bool_t (*arr_accion_Punto3D)(double *x, double *y, double *z, void *datos);
 
 /* New array of n points (0, 0, 0). */
-ARRAYS_API ARRAY *arr_CreaPunto3D(ULONG tamanyo_inicial) ARR_NOEXCEPT;
+ARRAYS_API ARRAY *arr_CreaPunto3D(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
 /* Appends (x, y, z). */
 ARRAYS_API void arr_AppendPunto3D(ARRAY *array, double x, double y, double z) ARR_NOEXCEPT;
 /* Inserts (x, y, z) before pos (pos == count appends). */
-ARRAYS_API void arr_InsertarPunto3D(ARRAY *array, ULONG pos, double x, double y,
+ARRAYS_API void arr_InsertarPunto3D(ARRAY *array, arr_ulong_t pos, double x, double y,
                                     double z) ARR_NOEXCEPT;
 /* The point at pos into the pointers that are not NULL (with all NULL only checks that it
  * exists). */
-ARRAYS_API void arr_GetPunto3D(const ARRAY *array, ULONG pos, double *x, double *y,
+ARRAYS_API void arr_GetPunto3D(const ARRAY *array, arr_ulong_t pos, double *x, double *y,
                                double *z) ARR_NOEXCEPT;
 /* Overwrites the point at pos. */
-ARRAYS_API void arr_SetPunto3D(ARRAY *array, ULONG pos, double x, double y, double z) ARR_NOEXCEPT;
+ARRAYS_API void arr_SetPunto3D(ARRAY *array, arr_ulong_t pos, double x, double y,
+                               double z) ARR_NOEXCEPT;
 /* Deletes the point at pos. */
-ARRAYS_API void arr_BorrarPunto3D(ARRAY *array, ULONG pos) ARR_NOEXCEPT;
+ARRAYS_API void arr_BorrarPunto3D(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
 /* First position whose point matches (x, y, z) by the predicate, or ARR_ULONG_MAX. */
-ARRAYS_API ULONG arr_BuscarPunto3D(ARRAY *array, double x, double y, double z,
+ARRAYS_API arr_ulong_t arr_BuscarPunto3D(ARRAY *array, double x, double y, double z,
                                    arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
 /* The same; a second match is reported and the last match is the result. */
-ARRAYS_API ULONG arr_BuscarUnicoPunto3D(ARRAY *array, double x, double y, double z,
+ARRAYS_API arr_ulong_t arr_BuscarUnicoPunto3D(ARRAY *array, double x, double y, double z,
                                         arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
 /* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
-ARRAYS_API BOOL arr_ExistePunto3D(ARRAY *array, double x, double y, double z,
-                                  arr_igualdad_Punto3D igualdad, ULONG *posicion) ARR_NOEXCEPT;
-ARRAYS_API BOOL arr_ExisteUnicoPunto3D(ARRAY *array, double x, double y, double z,
-                                       arr_igualdad_Punto3D igualdad, ULONG *posicion) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arr_ExistePunto3D(ARRAY *array, double x, double y, double z,
+                                  arr_igualdad_Punto3D igualdad, arr_ulong_t *posicion) ARR_NOEXCEPT;
+ARRAYS_API arr_bool_t arr_ExisteUnicoPunto3D(ARRAY *array, double x, double y, double z,
+                                       arr_igualdad_Punto3D igualdad, arr_ulong_t *posicion) ARR_NOEXCEPT;
 /* Sorts in place by the comparator. */
 ARRAYS_API void arr_QSortPunto3D(ARRAY *array, arr_orden_Punto3D comparador) ARR_NOEXCEPT;
 /* Same count and every pair of points equal by the predicate. */
-ARRAYS_API BOOL arr_SonIgualesPunto3D(ARRAY *array1, ARRAY *array2,
+ARRAYS_API arr_bool_t arr_SonIgualesPunto3D(ARRAY *array1, ARRAY *array2,
                                       arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
 /* Same count and, point by point, no coordinate differing by more than tolerancia (a box per
  * coordinate, not a distance). */
-ARRAYS_API BOOL arr_SonIgualesPunto3DConTolerancia(const ARRAY *array1, const ARRAY *array2,
+ARRAYS_API arr_bool_t arr_SonIgualesPunto3DConTolerancia(const ARRAY *array1, const ARRAY *array2,
                                                    double tolerancia) ARR_NOEXCEPT;
 /* A new array with the points in reverse order; the argument is unchanged. */
 ARRAYS_API ARRAY *arr_InvertirPunto3D(const ARRAY *array) ARR_NOEXCEPT;
 /* Calls accion(&x, &y, &z, datos) for every point in order; ubicacion and linea name the caller
  * in a report of a traversal already running. */
 ARRAYS_API void arr_nousar_RecorrePunto3D(ARRAY *array, arr_accion_Punto3D accion, void *datos,
-                                          const char *ubicacion, LONG linea) ARR_NOEXCEPT;
+                                          const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 
 /* ---- Plane geometry on 2D point arrays ------------------------------------------------------ */
 /* Arcs, ellipses and circles appended as polylines, and measures and edits of a polyline. Every
@@ -982,17 +1032,17 @@ ARRAYS_API void arr_nousar_RecorrePunto3D(ARRAY *array, arr_accion_Punto3D accio
  * arc evenly; an arc shorter than 1.1 such steps gets only its two ends. When the ends lie at
  * different distances from the centre the radius changes linearly with the angle. */
 ARRAYS_API void arr_AnyadirArcoPunto2D(ARRAY *array, double xc, double yc, double x1, double y1,
-                                       double x2, double y2, SHORT sentido,
-                                       ULONG num_puntos) ARR_NOEXCEPT;
+                                       double x2, double y2, arr_short_t sentido,
+                                       arr_ulong_t num_puntos) ARR_NOEXCEPT;
 /* The same arc in exactly num_puntos points (at least 2), both ends included. */
 ARRAYS_API void arr_AnyadirArcoPunto2D_numPuntosArco(ARRAY *array, double xc, double yc,
                                                      double x1, double y1, double x2, double y2,
-                                                     SHORT sentido, ULONG num_puntos) ARR_NOEXCEPT;
+                                                     arr_short_t sentido, arr_ulong_t num_puntos) ARR_NOEXCEPT;
 /* The same arc with enough points that no side exceeds longitud_maxima_lado (> 0) on the larger
  * of the two radii, and no fewer than a circle of num_puntos points would give it; at least 2. */
 ARRAYS_API void arr_AnyadirArcoPunto2D_con_longitud_maxima_lado(
-    ARRAY *array, double xc, double yc, double x1, double y1, double x2, double y2, SHORT sentido,
-    ULONG num_puntos, double longitud_maxima_lado) ARR_NOEXCEPT;
+    ARRAY *array, double xc, double yc, double x1, double y1, double x2, double y2, arr_short_t sentido,
+    arr_ulong_t num_puntos, double longitud_maxima_lado) ARR_NOEXCEPT;
 /* Appends the arc of the ellipse about (xc, yc) with semi-axes semieje_x, semieje_y, turned
  * counter-clockwise by angulo_giro, from the eccentric angle angulo_inicial to angulo_final (the
  * ellipse's own angles, before the turn), a step of 2 pi / num_puntos apart. Equal angles give one
@@ -1001,18 +1051,18 @@ ARRAYS_API void arr_AnyadirArcoPunto2D_con_longitud_maxima_lado(
 ARRAYS_API void arr_AnyadirArcoElipsePunto2D(ARRAY *array, double xc, double yc, double semieje_x,
                                              double semieje_y, double angulo_inicial,
                                              double angulo_final, double angulo_giro,
-                                             SHORT sentido, ULONG num_puntos) ARR_NOEXCEPT;
+                                             arr_short_t sentido, arr_ulong_t num_puntos) ARR_NOEXCEPT;
 /* The same arc, its step set by longitud_maxima_lado (> 0) on the larger semi-axis and by a
  * circle of num_puntos points, whichever gives more points, and at most 10000 points. */
 ARRAYS_API void arr_AnyadirArcoElipsePunto2D_con_longitud_maxima_lado(
     ARRAY *array, double xc, double yc, double semieje_x, double semieje_y, double angulo_inicial,
-    double angulo_final, double angulo_giro, SHORT sentido, ULONG num_puntos,
+    double angulo_final, double angulo_giro, arr_short_t sentido, arr_ulong_t num_puntos,
     double longitud_maxima_lado) ARR_NOEXCEPT;
 /* Appends to an empty array the circle about (xc, yc) of radius radio as numPtosCirculo points
  * (at least 3) from (xc + radio, yc), counter-clockwise for sentido 0 and mirrored otherwise;
  * the first point is not repeated at the end. */
 ARRAYS_API void arr_AnyadirCirculoPunto2D(ARRAY *array, double xc, double yc, double radio,
-                                          SHORT sentido, ULONG numPtosCirculo) ARR_NOEXCEPT;
+                                          arr_short_t sentido, arr_ulong_t numPtosCirculo) ARR_NOEXCEPT;
 
 /* Signed area of the polygon closed from the last point back to the first: positive when the
  * points run counter-clockwise, negative clockwise, 0.0 for fewer than three points. */
@@ -1020,7 +1070,7 @@ ARRAYS_API double arr_CalcularAreaPunto2D(const ARRAY *array) ARR_NOEXCEPT;
 /* Length of the open polyline. *indice_lado_mayor gets the index of the first point of its
  * longest side (the first of equal ones) and *longitud_lado_mayor that side's length; with fewer
  * than two points 0 is returned, with ARR_ULONG_MAX and -1.0. Either pointer may be NULL. */
-ARRAYS_API double arr_LongitudPunto2D(const ARRAY *array, ULONG *indice_lado_mayor,
+ARRAYS_API double arr_LongitudPunto2D(const ARRAY *array, arr_ulong_t *indice_lado_mayor,
                                       double *longitud_lado_mayor) ARR_NOEXCEPT;
 /* Distance from (x, y) to the open polyline (to its only point when it has one); the nearest
  * point of the polyline goes to the pointers that are not NULL. The array must not be empty. */
@@ -1035,18 +1085,18 @@ ARRAYS_API double arr_DistanciaDePuntoAPolilineaCerradaPunto2D(const ARRAY *arra
  * coordinates, index and distance go to the pointers that are not NULL. The array must not be
  * empty. */
 ARRAYS_API void arr_IndicePolilineaMasCercanoAPuntoReferenciaPunto2D(
-    const ARRAY *array, double x, double y, double *x_cercano, double *y_cercano, ULONG *indice,
+    const ARRAY *array, double x, double y, double *x_cercano, double *y_cercano, arr_ulong_t *indice,
     double *distancia) ARR_NOEXCEPT;
 /* Deletes every point equal to the one before it (each coordinate within 1e-9); the first and
  * last points are not compared with each other. *num_eliminados (if not NULL) gets how many. */
 ARRAYS_API void arr_EliminarPuntosContiguosRepetidosPunto2D(ARRAY *array,
-                                                            ULONG *num_eliminados) ARR_NOEXCEPT;
+                                                            arr_ulong_t *num_eliminados) ARR_NOEXCEPT;
 /* Deletes, from the start, every point closer than tolerancia to the line through its two
  * neighbours (the neighbours as they are after earlier deletions); point 0 always stays. With
  * cerrada 1 the polyline is taken as closed back to point 0: that needs a plain 2D point array
  * (one with private data is refused) that is not empty. */
 ARRAYS_API void arr_eliminar_contenidos_entre_dos_puntos_polilinea_Punto2D(
-    ARRAY *array, SHORT cerrada, double tolerancia) ARR_NOEXCEPT;
+    ARRAY *array, arr_short_t cerrada, double tolerancia) ARR_NOEXCEPT;
 
 /* ---- Looking into arrays from outside: the debug dump and shared-memory publishing -------- */
 /* For single-threaded debugging use: the module's buffers and tables are shared by every caller
@@ -1062,7 +1112,7 @@ ARRAYS_API void arr_eliminar_contenidos_entre_dos_puntos_polilinea_Punto2D(
  * OutputDebugStringA / OutputDebugStringW, elsewhere standard error in UTF-8 (a narrow text that
  * is valid UTF-8 as it is, any other converted from Windows-1252). */
 ARRAYS_API void debugarr_set_salida(void (*estrecha)(const char *texto),
-                                    void (*ancha)(const WCHAR *texto)) ARR_NOEXCEPT;
+                                    void (*ancha)(const arr_wchar_t *texto)) ARR_NOEXCEPT;
 
 /* Lists `array` on the debugger output: "\r\nArray de N elementos:\r\n", then one text per
  * element: "[i]: value\r\n" with i counted from 1 (BYTE, UChar and Char as 0 to 255, BOOL as
@@ -1085,12 +1135,12 @@ ARRAYS_API void debugarr_outputDebug(const ARRAY *array) ARR_NOEXCEPT;
  * until the process ends. Messages as for debugarr_outputDebug; an invalid array, an empty
  * array before any copy was made, a copy above 4 GiB or a block that cannot be made publish
  * nothing, silently. */
-ARRAYS_API void debugarr_ini_serializa(const ARRAY *array, ULONG identificador) ARR_NOEXCEPT;
+ARRAYS_API void debugarr_ini_serializa(const ARRAY *array, arr_ulong_t identificador) ARR_NOEXCEPT;
 
 /* Closes the block published under `identificador` (the first slot that holds it) and takes its
  * name away unless another published block shares it. 0 when no slot holds the identifier;
  * otherwise a value that carries no further meaning. */
-ARRAYS_API int debugarr_fin_serializa(ULONG identificador) ARR_NOEXCEPT;
+ARRAYS_API int debugarr_fin_serializa(arr_ulong_t identificador) ARR_NOEXCEPT;
 
 /* Writes the element count of `array` into the 12-byte block
  * "MemComp_ZarpTools_serializa_num_elems" (count, 0, 0), made at the first use and kept for the
@@ -1106,10 +1156,10 @@ ARRAYS_API void debugarr_serializa_num_elems_array(const ARRAY *array) ARR_NOEXC
 ARRAYS_API void *debugarr_elems(const ARRAY *array) ARR_NOEXCEPT;
 
 /* The element count of `array`; 0 when it is not valid. */
-ARRAYS_API ULONG debugarr_num_elems(const ARRAY *array) ARR_NOEXCEPT;
+ARRAYS_API arr_ulong_t debugarr_num_elems(const ARRAY *array) ARR_NOEXCEPT;
 
 /* The element type tag of `array`; 0xFFFFFFFF when it is not valid. */
-ARRAYS_API ULONG debugarr_tipo_array(const ARRAY *array) ARR_NOEXCEPT;
+ARRAYS_API arr_ulong_t debugarr_tipo_array(const ARRAY *array) ARR_NOEXCEPT;
 
 #ifdef __cplusplus
 }

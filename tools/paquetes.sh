@@ -4,10 +4,11 @@
 # The library and the demo.
 PAQUETES_DEMO=(cmake ninja-build g++)
 # The tests besides: clang with its sanitizer runtimes, GoogleTest, Boost.Geometry (headers) for
-# the geometry checks, valgrind, pkg-config for the installation test, and Python with the
-# Unicode Character Database to check the case-folding table against its generator.
+# the geometry checks, valgrind, pkg-config for the installation test, Python with the Unicode
+# Character Database to check the case-folding table against its generator, and X11's <Xmd.h>
+# that the header must compile after.
 PAQUETES_PRUEBAS=("${PAQUETES_DEMO[@]}" clang libclang-rt-14-dev libgtest-dev libgmock-dev
-                  libboost-dev valgrind pkgconf python3 unicode-data)
+                  libboost-dev valgrind pkgconf python3 unicode-data x11proto-dev)
 # The benchmarks besides: Google Benchmark and GLib, one of the peers.
 PAQUETES_BANCOS=("${PAQUETES_PRUEBAS[@]}" libbenchmark-dev libglib2.0-dev)
 

@@ -1,0 +1,27 @@
+/* The header after the Windows type names as <windef.h> declares them (its include guard and its
+ * types, written out here: this build has no Windows headers): the short names are left to
+ * Windows, and the prototypes use the prefixed types. */
+#include <stddef.h>
+
+#define _WINDEF_
+typedef int BOOL;
+typedef unsigned char BYTE;
+typedef long LONG;
+typedef unsigned long ULONG;
+typedef short SHORT;
+typedef unsigned short USHORT;
+typedef unsigned char UCHAR;
+typedef wchar_t WCHAR;
+
+#include "arrays.h"
+
+int main(void)
+{
+    BOOL de_windows = 1;
+    arr_wchar_t ancha[2] = {0x41, 0};
+    ARRAY *array = arr_CreaCADENA_u(0);
+    arr_AppendCADENA_u(array, ancha);
+    de_windows = arr_NumElemsCADENA_u(array) == 1;
+    arr_DestruyeCADENA_u(&array);
+    return de_windows ? 0 : 1;
+}

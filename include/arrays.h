@@ -6,9 +6,14 @@
  * - Positions and counts are ULONG; a position that is not found is ARR_ULONG_MAX.
  * - Each function checks its preconditions and reports every broken one through the report
  *   handler (arr_set_manejador_informes) with the exact text of the condition, then carries on.
- *   A NULL handle, a handle that is not a live array, a handle of another element type or a
- *   position that does not exist ends the call there with a neutral result (0, 0.0, NULL,
- *   FALSO, ARR_ULONG_MAX) and nothing changed.
+ *   A NULL handle, a handle that is not a live array or a position that does not exist ends the
+ *   call there with a neutral result (0, 0.0, NULL, FALSO, ARR_ULONG_MAX) and nothing changed.
+ * - A live array of another element type is reported by its tag; the call then carries on over
+ *   the stored bytes when that is safe: the elements of both types are plain values of one size
+ *   (the integers, doubles, BOOL and the points of one width; a byte read of a bit array; a
+ *   plain 2D point array destroyed through arr_DestruyePunto2DXPriv). Where it is not (strings,
+ *   pointers, private data, writes of bytes into bits, other sizes) the call ends as above. The
+ *   bit functions on another type report the tag and the bit position, and change nothing.
  * - Destroyers take the address of the handle and leave it NULL.
  */
 #ifndef ARRAYS_H

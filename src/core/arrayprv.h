@@ -269,8 +269,15 @@ enum class Modo { ninguno, leniente, estricto };
 
 // Runs the entry check; false when the handle cannot be touched (NULL or not a live header).
 bool arrayprv_entrada(const ARRAY *array, const TextosEntrada &textos, bool guardas, Modo modo);
+// Whether an operation on elements of tag `pedido` may go on, after the tag's report, over an
+// array of tag `del_array`: as the reports' rule says it carries on, wherever that stays within
+// the array's memory and invariants. The elements must be of one size and plain values on both
+// sides (no strings, pointers or private data, which the library frees or hands to callbacks);
+// bits, which the array counts apart from the bytes that hold them, only for reads (`escribe`
+// false).
+bool arrayprv_tipos_intercambiables(tipo_elem_array del_array, tipo_elem_array pedido, bool escribe);
 // The same, then the tag test "array->tipo_elem == tipo_elem" (or `texto_tipo`); false when any
-// of them fails.
+// of them fails, unless the tags are interchangeable for the operation (`guardas` tells a writer).
 bool arrayprv_entrada_tipo(const ARRAY *array, const TextosEntrada &textos, bool guardas, Modo modo,
                            tipo_elem_array tipo_elem,
                            const char *texto_tipo = "array->tipo_elem == tipo_elem");

@@ -74,11 +74,26 @@ bool arrayprv_entrada(const ARRAY *array, const TextosEntrada &textos, bool guar
     return true;
 }
 
+bool arrayprv_tipos_intercambiables(tipo_elem_array del_array, tipo_elem_array pedido, bool escribe)
+{
+    const auto de_valores = [](tipo_elem_array tipo) {
+        return tipo != elem_CADENA_NO_USAR && tipo != elem_CADENA_U_NO_USAR &&
+               tipo != elem_PUNTERO_NO_USAR && tipo != elem_PUNTO2DX_NO_USAR &&
+               tipo != elem_antiguo_PUNTO3DX && tipo <= elem_CADENA_U_NO_USAR;
+    };
+    if (!de_valores(del_array) || !de_valores(pedido))
+        return false;
+    if ((del_array == elem_BIT_NO_USAR || pedido == elem_BIT_NO_USAR) && escribe)
+        return false;
+    return arrayprv_size_elem(del_array) == arrayprv_size_elem(pedido);
+}
+
 bool arrayprv_entrada_tipo(const ARRAY *array, const TextosEntrada &textos, bool guardas, Modo modo,
                            tipo_elem_array tipo_elem, const char *texto_tipo)
 {
     return arrayprv_entrada(array, textos, guardas, modo) &&
-           ARR_EXIGE(array->tipo_elem == tipo_elem, texto_tipo);
+           (ARR_EXIGE(array->tipo_elem == tipo_elem, texto_tipo) ||
+            arrayprv_tipos_intercambiables(array->tipo_elem, tipo_elem, guardas));
 }
 
 bool arrayprv_admite_cambio(const ARRAY *array, const TextosEntrada &textos)

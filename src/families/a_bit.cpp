@@ -24,12 +24,18 @@ bool es_array_de_bits(const ARRAY *array)
 BYTE mascara_de(ULONG pos) { return static_cast<BYTE>(1u << (pos & 7)); }
 
 // The byte that holds bit pos. A pos past the bits is reported and the byte still looked up;
-// NULL when that byte is not stored.
+// NULL when that byte is not stored. A live array of another type is reported by its tag and
+// then, holding no bits, by the position, and gives no byte.
 BYTE *byte_de(const ARRAY *array, ULONG pos)
 {
-    if (!es_array_de_bits(array))
+    if (!ARR_EXIGE(array != nullptr, "(array) != NULL") ||
+        !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, "array->mascara_debug == MASCARA_DEBUG"))
         return nullptr;
-    ARR_EXIGE(pos < array->num_bits, "pos < array->num_bits");
+    const bool de_bits =
+        ARR_EXIGE(array->tipo_elem == elem_BIT_NO_USAR, "array->tipo_elem == elem_BIT_NO_USAR");
+    const ULONG num_bits = de_bits ? array->num_bits : 0;
+    if (!ARR_EXIGE(pos < num_bits, "pos < array->num_bits") && !de_bits)
+        return nullptr;
     posicion_array posi;
     if (!arrayprv_posicion(array, pos / 8, &posi))
         return nullptr;

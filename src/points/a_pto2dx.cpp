@@ -127,11 +127,16 @@ extern "C" void arr_DestruyePunto2DXPriv(ARRAY **array,
                                          arr_destruye_datos_Punto2DXPriv destruye) noexcept
 {
     if (!ARR_EXIGE(array != nullptr, "(array) != NULL") ||
-        !arrayprv_entrada_tipo(*array, TEXTOS_HANDLE, true, Modo::estricto, TAG,
-                               "(*array)->tipo_elem == elem_PUNTO2DX_NO_USAR") ||
+        !arrayprv_entrada(*array, TEXTOS_HANDLE, true, Modo::estricto))
+        return;
+    // A plain 2D point array is reported by its tag and destroyed all the same: it holds no data
+    // to release. Any other type is left to its own destroyer.
+    const bool con_datos =
+        ARR_EXIGE((*array)->tipo_elem == TAG, "(*array)->tipo_elem == elem_PUNTO2DX_NO_USAR");
+    if ((!con_datos && (*array)->tipo_elem != elem_PUNTO2D_NO_USAR) ||
         !arrayprv_admite_cambio(*array, TEXTOS_HANDLE))
         return;
-    if ((*array)->num_elems > 0) {
+    if (con_datos && (*array)->num_elems > 0) {
         if (destruye != nullptr)
             arrayprv_opera_direccion_todos(*array, destruye);
         arrayprv_libera_contenido(*array);

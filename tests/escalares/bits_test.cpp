@@ -117,18 +117,32 @@ TEST_F(Bits, AppendIntoTheLastByteFollowsTheRowLayout)
     arr_DestruyeBIT(&array);
 }
 
-TEST_F(Bits, AnArrayOfAnotherTagIsRefused)
+// Get and set go on from the tag's report to the position's: the array holds no bits.
+TEST_F(Bits, AnArrayOfAnotherTagIsReportedByItsTagAndTheBitPositionAndLeftAsItWas)
 {
     ARRAY *array = arr_CreaBYTE(2);
     EXPECT_EQ(arr_GetBIT(array, 0), FALSO);
     arr_SetBIT(array, 0, CIERTO);
     arr_AppendBIT(array, CIERTO);
-    EXPECT_EQ(informes(), (Textos{"array->tipo_elem == elem_BIT_NO_USAR",
-                                  "array->tipo_elem == elem_BIT_NO_USAR",
+    EXPECT_EQ(informes(), (Textos{"array->tipo_elem == elem_BIT_NO_USAR", "pos < array->num_bits",
+                                  "array->tipo_elem == elem_BIT_NO_USAR", "pos < array->num_bits",
                                   "array->tipo_elem == elem_BIT_NO_USAR"}));
     EXPECT_EQ(arr_NumElemsBYTE(array), 2u);
     EXPECT_EQ(arr_GetBYTE(array, 0), 0);
     arr_DestruyeBYTE(&array);
+}
+
+// The bytes that hold the bits are plain bytes: a byte read reports the tag and gives them.
+TEST_F(Bits, AByteReadOfABitArrayIsReportedAndGivesTheStoredByte)
+{
+    ARRAY *array = arr_CreaBIT(10);
+    arr_SetBIT(array, 1, CIERTO);
+    arr_SetBIT(array, 3, CIERTO);
+    EXPECT_EQ(arr_GetBYTE(array, 0), 0x0A);
+    arr_SetBYTE(array, 0, 0xFF);
+    EXPECT_EQ(informes(), Textos(2, "array->tipo_elem == tipo_elem"));
+    EXPECT_EQ(arr_GetBIT(array, 0), FALSO) << "a byte write to a bit array is refused";
+    arr_DestruyeBIT(&array);
 }
 
 TEST_F(Bits, ANullHandleIsReportedFromTheBitModule)

@@ -158,13 +158,17 @@ TYPED_TEST(Familias, GetPastTheEndIsReportedAndGivesZero)
     TypeParam::destruye(&array);
 }
 
-TYPED_TEST(Familias, ArrayOfAnotherTagIsRefusedThoughItsCTypeMayBeTheSame)
+// The tag is reported; the set and the get then go on when the other tag's elements are of the
+// same size (both plain values), and are refused otherwise.
+TYPED_TEST(Familias, ArrayOfAnotherTagIsReportedAndUsedOnlyWhenItsElementsAreOfTheSameSize)
 {
-    ARRAY *array = arrayprv_crea(1, otra_etiqueta(TypeParam::tag), LONG_FILA_POR_DEFECTO);
+    const tipo_elem_array otra = otra_etiqueta(TypeParam::tag);
+    const bool mismo_tamanyo = arrayprv_size_elem(otra) == arrayprv_size_elem(TypeParam::tag);
+    ARRAY *array = arrayprv_crea(1, otra, LONG_FILA_POR_DEFECTO);
     TypeParam::set(array, 0, this->uno);
     EXPECT_EQ(this->informes(), Textos{"array->tipo_elem == tipo_elem"});
-    EXPECT_EQ(array->buffer[0][0], 0);
-    EXPECT_EQ(TypeParam::get(array, 0), this->cero);
+    EXPECT_EQ(array->buffer[0][0] != 0, mismo_tamanyo);
+    EXPECT_EQ(TypeParam::get(array, 0), mismo_tamanyo ? this->uno : this->cero);
     EXPECT_EQ(this->informes(), Textos{"array->tipo_elem == tipo_elem"});
     arrayprv_destruye(&array);
 }

@@ -26,15 +26,15 @@ TEST_F(Pesetas, EveryRowIsConverted)
     arr_DestruyeDouble(&array);
 }
 
-TEST_F(Pesetas, AnArrayOfAnotherFamilyIsRefusedUnchanged)
+TEST_F(Pesetas, AnArrayOfAnotherFamilyWithElementsOfAnotherSizeIsRefusedUnchanged)
 {
-    ARRAY *array = arr_CreaULong64(0);
-    arr_AppendULong64(array, 1000);
-    arr_AppendULong64(array, 2000);
+    ARRAY *array = arr_CreaULong(0);
+    arr_AppendULong(array, 1000);
+    arr_AppendULong(array, 2000);
     arr_cambio_precio_pesetas_a_euros(array);
     EXPECT_EQ(informes(), Textos{"array->tipo_elem == tipo_elem"});
-    EXPECT_EQ(arr_GetULong64(array, 0), 1000u);
-    arr_DestruyeULong64(&array);
+    EXPECT_EQ(arr_GetULong(array, 0), 1000u);
+    arr_DestruyeULong(&array);
 }
 
 } // namespace

@@ -150,10 +150,19 @@ TEST_F(Sumas, SumAtAPositionPastTheEndIsReportedAndChangesNothing)
     arr_DestruyeULong(&array);
 }
 
-TEST_F(Sumas, SumOnAnArrayOfAnotherFamilyIsRefused)
+TEST_F(Sumas, SumOnAnArrayOfAnotherFamilyWithElementsOfTheSameSizeIsReportedAndDone)
 {
     ARRAY *array = arr_CreaBOOL(1);
     arr_SumarUShort(array, 0, 1);
+    EXPECT_EQ(informes(), Textos{"array->tipo_elem == tipo_elem"});
+    EXPECT_EQ(arr_GetBOOL(array, 0), CIERTO);
+    arr_DestruyeBOOL(&array);
+}
+
+TEST_F(Sumas, SumOnAnArrayOfAnotherFamilyWithElementsOfAnotherSizeIsRefused)
+{
+    ARRAY *array = arr_CreaBOOL(1);
+    arr_SumarLong(array, 0, 1);
     EXPECT_EQ(informes(), Textos{"array->tipo_elem == tipo_elem"});
     EXPECT_EQ(arr_GetBOOL(array, 0), FALSO);
     arr_DestruyeBOOL(&array);

@@ -81,14 +81,14 @@ TEST_F(Tolerancias, EveryPositionOfEveryRowIsCompared)
     destruye(array2, 0);
 }
 
-TEST_F(Tolerancias, AnArrayOfAnotherFamilyIsRefused)
+TEST_F(Tolerancias, AnArrayOfAnotherFamilyWithElementsOfAnotherSizeIsRefused)
 {
     ARRAY *array1 = doubles({});
-    ARRAY *array2 = arr_CreaLong64(0);
+    ARRAY *array2 = arr_CreaLong(0);
     EXPECT_EQ(arr_SonIgualesDoubleConTolerancia(array1, array2, 1.0), FALSO);
     EXPECT_EQ(informes(), Textos{"array->tipo_elem == tipo_elem"});
     destruye(array1, 0);
-    arr_DestruyeLong64(&array2);
+    arr_DestruyeLong(&array2);
 }
 
 TEST_F(Tolerancias, PointerArraysOfCloseDoubleArraysAreEqual)

@@ -5,6 +5,8 @@
 #include "core/arrayprv.h"
 #include "motor/ayudas_motor.h"
 
+#include <cstring>
+
 namespace {
 
 using ReportesDelMotor = PruebaArrays;
@@ -125,21 +127,26 @@ std::vector<LONG64> elementos_long64(const ARRAY *array)
     return valores;
 }
 
-// A live array of another element type (7, 0, 0 as Long64), reached through the Double exports:
-// refused, and left as it was.
+std::vector<LONG> elementos_long(const ARRAY *array)
+{
+    std::vector<LONG> valores;
+    for (ULONG i = 0; i < array->num_elems; ++i)
+        valores.push_back(*static_cast<const LONG *>(arrayprv_get(array, i, elem_LONG_NO_USAR)));
+    return valores;
+}
+
+// A live array of another element type whose elements are of another size (7, 0, 0 as Long),
+// reached through the Double exports: reported, refused, and left as it was.
 class HandleDeOtroTipo : public PruebaConArray {
 protected:
     ARRAY *crea_array() override
     {
-        ARRAY *long64 = arrayprv_crea(3, elem_LONG64_NO_USAR, LONG_FILA_POR_DEFECTO);
-        const LONG64 siete = 7;
-        arrayprv_set(long64, 0, &siete, elem_LONG64_NO_USAR);
-        return long64;
+        ARRAY *longs = arrayprv_crea(3, elem_LONG_NO_USAR, LONG_FILA_POR_DEFECTO);
+        const LONG siete = 7;
+        arrayprv_set(longs, 0, &siete, elem_LONG_NO_USAR);
+        return longs;
     }
-    void al_terminar() override
-    {
-        EXPECT_EQ(elementos_long64(array), (std::vector<LONG64>{7, 0, 0}));
-    }
+    void al_terminar() override { EXPECT_EQ(elementos_long(array), (std::vector<LONG>{7, 0, 0})); }
 };
 
 TEST_F(HandleDeOtroTipo, AppendIsRefused)
@@ -176,6 +183,45 @@ TEST_F(HandleDeOtroTipo, InitialiseIsRefusedWithItsOwnText)
 {
     arr_InicializaDouble(array, 1.0);
     EXPECT_EQ(informes(), Textos{"array->tipo_elem == tipo"});
+}
+
+// The same through a Long64 array, whose elements are of the Double's size: the tag is reported
+// and the operation goes on over the stored bytes, as after any other report.
+using HandleDeOtroTipoDelMismoTamanyo = PruebaArrays;
+
+TEST_F(HandleDeOtroTipoDelMismoTamanyo, EveryElementOperationIsReportedAndCarriedOut)
+{
+    ARRAY *array = arrayprv_crea(0, elem_LONG64_NO_USAR, LONG_FILA_POR_DEFECTO);
+    for (const LONG64 v : {7, 8, 9}) {
+        arrayprv_append(array, &v, elem_LONG64_NO_USAR);
+    }
+    arr_SetDouble(array, 0, 1.5);
+    arr_AppendDouble(array, 2.5);
+    arr_InsertarDouble(array, 1, 3.5);
+    arr_BorrarDouble(array, 2);
+    EXPECT_EQ(informes(), Textos(4, "array->tipo_elem == tipo_elem"));
+    std::vector<double> leidos;
+    for (ULONG i = 0; i < 4; ++i)
+        leidos.push_back(arr_GetDouble(array, i));
+    EXPECT_EQ(informes(), Textos(4, "array->tipo_elem == tipo_elem"));
+    std::vector<double> esperados{1.5, 3.5, 0, 2.5};
+    const LONG64 nueve = 9;
+    std::memcpy(&esperados[2], &nueve, sizeof nueve); // the Long64 9, read as a double's bytes
+    EXPECT_EQ(std::memcmp(leidos.data(), esperados.data(), sizeof(double) * 4), 0);
+    arrayprv_destruye(&array);
+}
+
+TEST_F(HandleDeOtroTipoDelMismoTamanyo, StringAndPointerArraysAreNeverUsedAsValues)
+{
+    ARRAY *cadenas = arr_CreaCADENA(1);
+    const char *antes = arr_GetCADENA(cadenas, 0);
+    EXPECT_EQ(arr_GetDouble(cadenas, 0), 0.0);
+    arr_SetDouble(cadenas, 0, 1.0);
+    arr_AppendLong64(cadenas, 1);
+    EXPECT_EQ(informes(), Textos(3, "array->tipo_elem == tipo_elem"));
+    EXPECT_EQ(arr_NumElemsCADENA(cadenas), 1u);
+    EXPECT_EQ(arr_GetCADENA(cadenas, 0), antes);
+    arr_DestruyeCADENA(&cadenas);
 }
 
 using OperacionesComunes = PruebaArrays;

@@ -268,12 +268,23 @@ TEST_F(Qsort, SortOfADeadHeaderIsReportedAndSortsNothing)
     arr_DestruyeDouble(&array);
 }
 
-TEST_F(Qsort, SortWithAnotherTagIsReportedAndSortsNothing)
+TEST_F(Qsort, SortWithAnotherTagOfAnotherSizeIsReportedAndSortsNothing)
+{
+    ARRAY *array = crea_doubles({2.0, 1.0});
+    arrayprv_ordena<elem_LONG_NO_USAR>(array, arrayprv_orden_long);
+    EXPECT_EQ(informes(), Textos{"array->tipo_elem == tipo_elem"});
+    EXPECT_EQ(doubles_de(array), (std::vector<double>{2.0, 1.0}));
+    EXPECT_EQ(array->en_bucle, FALSO);
+    arr_DestruyeDouble(&array);
+}
+
+// Positive doubles order as their bits do, read as 64-bit integers.
+TEST_F(Qsort, SortWithAnotherTagOfTheSameSizeIsReportedAndSortsByThatTagsOrder)
 {
     ARRAY *array = crea_doubles({2.0, 1.0});
     arrayprv_ordena<elem_LONG64_NO_USAR>(array, arrayprv_orden_long64);
     EXPECT_EQ(informes(), Textos{"array->tipo_elem == tipo_elem"});
-    EXPECT_EQ(doubles_de(array), (std::vector<double>{2.0, 1.0}));
+    EXPECT_EQ(doubles_de(array), (std::vector<double>{1.0, 2.0}));
     EXPECT_EQ(array->en_bucle, FALSO);
     arr_DestruyeDouble(&array);
 }

@@ -235,13 +235,23 @@ TEST_F(Punto2DXTest, DestroyWithoutAFunctionReportsEveryPointStillHoldingData)
         destruye(&dato);
 }
 
-TEST_F(Punto2DXTest, DestroyOnAPlainArrayReportsTheTypeAndKeepsIt)
+// A plain 2D point array has no data for the destroy function: it is reported by its tag and
+// destroyed (the fixture finds nothing left allocated), the function never called.
+TEST_F(Punto2DXTest, DestroyOnAPlainArrayReportsTheTypeAndDestroysIt)
 {
     ARRAY *array = crea_puntos2D({{1, 1}});
+    arr_DestruyePunto2DXPriv(&array, [](void **) { ADD_FAILURE() << "no data to destroy"; });
+    EXPECT_EQ(informes(), Textos{"(*array)->tipo_elem == elem_PUNTO2DX_NO_USAR"});
+    EXPECT_EQ(array, nullptr);
+}
+
+TEST_F(Punto2DXTest, DestroyOnAnArrayOfAnotherKindReportsTheTypeAndKeepsIt)
+{
+    ARRAY *array = arr_CreaPunto3D(1);
     arr_DestruyePunto2DXPriv(&array, destruye);
     EXPECT_EQ(informes(), Textos{"(*array)->tipo_elem == elem_PUNTO2DX_NO_USAR"});
-    EXPECT_EQ(arr_NumElemsPunto2D(array), 1u);
-    arr_DestruyePunto2D(&array);
+    EXPECT_EQ(arr_NumElemsPunto3D(array), 1u);
+    arr_DestruyePunto3D(&array);
 }
 
 TEST_F(Punto2DXTest, DestroyChecksTheHandle)

@@ -10,7 +10,7 @@
  *   call there with a neutral result (0, 0.0, NULL, FALSO, ARR_ULONG_MAX) and nothing changed.
  * - A live array of another element type is reported by its tag; the call then carries on over
  *   the stored bytes when that is safe: the elements of both types are plain values of one size
- *   (the integers, doubles, BOOL and the points of one width; a byte read of a bit array; a
+ *   (the integers, doubles and BOOL of one width; a byte read of a bit array; a
  *   plain 2D point array destroyed through arr_DestruyePunto2DXPriv). Where it is not (strings,
  *   pointers, private data, writes of bytes into bits, other sizes) the call ends as above. The
  *   bit functions on another type report the tag and the bit position, and change nothing.

@@ -19,7 +19,8 @@
 #include <tuple>
 #include <vector>
 
-namespace {
+namespace
+{
 
 constexpr ULONG MAXIMO = 3000;
 
@@ -29,7 +30,11 @@ void cuenta(const arr_informe *, void *) { ++informes; }
 // Steps checked against the model over the whole run, said when the run ends.
 struct Pasos {
     ULONG64 total = 0;
-    ~Pasos() { std::fprintf(stderr, "libarrays families fuzz: %llu operations checked\n", static_cast<unsigned long long>(total)); }
+    ~Pasos()
+    {
+        std::fprintf(stderr, "libarrays families fuzz: %llu operations checked\n",
+                     static_cast<unsigned long long>(total));
+    }
 } pasos;
 
 void exige(bool condicion, const char *que)
@@ -76,7 +81,10 @@ struct ULong {
     static void set(ARRAY *a, ULONG p, const T &v) { arr_SetULong(a, p, v); }
     static void reduce(ARRAY *a, ULONG n) { arr_ReduceTamanyoULong(a, n); }
     static void ordena(ARRAY *a) { arr_QSortULong(a, nullptr); }
-    static void ordena_roto(ARRAY *a) { arr_QSortULong(a, [](ULONG, ULONG) { return resultado_al_azar(); }); }
+    static void ordena_roto(ARRAY *a)
+    {
+        arr_QSortULong(a, [](ULONG, ULONG) { return resultado_al_azar(); });
+    }
     static ULONG busca(ARRAY *a, const T &v)
     {
         return arr_BuscarULong(a, v, [](ULONG x, ULONG y) -> BOOL { return x == y; });
@@ -86,12 +94,15 @@ struct ULong {
     static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
-        arr_nousar_RecorreULong(a, [](ULONG *, void *) -> BOOL {
-            arr_AppendULong(contado(), 1);
-            arr_BorrarULong(contado(), 0);
-            arr_DestruyeULong(&objetivo);
-            return CIERTO;
-        }, nullptr, "fuzz", __LINE__);
+        arr_nousar_RecorreULong(
+            a,
+            [](ULONG *, void *) -> BOOL {
+                arr_AppendULong(contado(), 1);
+                arr_BorrarULong(contado(), 0);
+                arr_DestruyeULong(&objetivo);
+                return CIERTO;
+            },
+            nullptr, "fuzz", __LINE__);
     }
     static void ordena_hostil(ARRAY *a)
     {
@@ -109,7 +120,11 @@ template <> struct Cadena<char> {
     static ARRAY *crea() { return arr_CreaCADENA(0); }
     static void destruye(ARRAY **a) { arr_DestruyeCADENA(a); }
     static ULONG num(ARRAY *a) { return arr_NumElemsCADENA(a); }
-    static T valor(FuzzedDataProvider &d) { return T(d.ConsumeIntegralInRange(0, 3), static_cast<char>('a' + d.ConsumeIntegralInRange(0, 3))); }
+    static T valor(FuzzedDataProvider &d)
+    {
+        return T(d.ConsumeIntegralInRange(0, 3),
+                 static_cast<char>('a' + d.ConsumeIntegralInRange(0, 3)));
+    }
     static void append(ARRAY *a, const T &v) { arr_AppendCADENA(a, v.c_str()); }
     static void inserta(ARRAY *a, ULONG p, const T &v) { arr_InsertarCADENA(a, p, v.c_str()); }
     static void borra(ARRAY *a, ULONG p) { arr_BorrarCADENA(a, p); }
@@ -131,12 +146,15 @@ template <> struct Cadena<char> {
     static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
-        nousar_RecorreCADENA(a, [](char **, void *) -> BOOL {
-            arr_AppendCADENA(contado(), "x");
-            arr_BorrarCADENA(contado(), 0);
-            arr_DestruyeCADENA(&objetivo);
-            return CIERTO;
-        }, nullptr, "fuzz", __LINE__);
+        nousar_RecorreCADENA(
+            a,
+            [](char **, void *) -> BOOL {
+                arr_AppendCADENA(contado(), "x");
+                arr_BorrarCADENA(contado(), 0);
+                arr_DestruyeCADENA(&objetivo);
+                return CIERTO;
+            },
+            nullptr, "fuzz", __LINE__);
     }
     static void ordena_hostil(ARRAY *a)
     {
@@ -154,7 +172,8 @@ template <> struct Cadena<WCHAR> {
     static ULONG num(ARRAY *a) { return arr_NumElemsCADENA_u(a); }
     static T valor(FuzzedDataProvider &d)
     {
-        return T(d.ConsumeIntegralInRange(0, 3), static_cast<char16_t>(0xE0 + d.ConsumeIntegralInRange(0, 3)));
+        return T(d.ConsumeIntegralInRange(0, 3),
+                 static_cast<char16_t>(0xE0 + d.ConsumeIntegralInRange(0, 3)));
     }
     static void append(ARRAY *a, const T &v) { arr_AppendCADENA_u(a, v.c_str()); }
     static void inserta(ARRAY *a, ULONG p, const T &v) { arr_InsertarCADENA_u(a, p, v.c_str()); }
@@ -177,12 +196,15 @@ template <> struct Cadena<WCHAR> {
     static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
-        nousar_RecorreCADENA_u(a, [](WCHAR **, void *) -> BOOL {
-            arr_AppendCADENA_u(contado(), u"x");
-            arr_BorrarCADENA_u(contado(), 0);
-            arr_DestruyeCADENA_u(&objetivo);
-            return CIERTO;
-        }, nullptr, "fuzz", __LINE__);
+        nousar_RecorreCADENA_u(
+            a,
+            [](WCHAR **, void *) -> BOOL {
+                arr_AppendCADENA_u(contado(), u"x");
+                arr_BorrarCADENA_u(contado(), 0);
+                arr_DestruyeCADENA_u(&objetivo);
+                return CIERTO;
+            },
+            nullptr, "fuzz", __LINE__);
     }
     static void ordena_hostil(ARRAY *a)
     {
@@ -206,7 +228,10 @@ struct Estructura {
     static int de(const void *e) { return *static_cast<const int *>(e); }
     static ARRAY *crea() { return arr_CreaPunteroConTipo(0); }
     static void destruye(ARRAY **a) { arr_DestruyeEstructurasConTipo(a, libera); }
-    static ULONG num(ARRAY *a) { return arrayprv_num_elems(a); } // the family's count is the shared one
+    static ULONG num(ARRAY *a)
+    {
+        return arrayprv_num_elems(a);
+    } // the family's count is the shared one
     static T valor(FuzzedDataProvider &d) { return d.ConsumeIntegralInRange(-20, 20); }
     static void append(ARRAY *a, const T &v) { arr_AppendPunteroConTipo(a, nueva(v)); }
     static void inserta(ARRAY *a, ULONG p, const T &v)
@@ -240,13 +265,15 @@ struct Estructura {
     }
     static ULONG busca(ARRAY *a, const T &v)
     {
-        return arr_BuscarEstructuraConTipo(a, &v, [](const void *e, const void *d) -> BOOL {
-            return de(e) == de(d);
-        });
+        return arr_BuscarEstructuraConTipo(
+            a, &v, [](const void *e, const void *d) -> BOOL { return de(e) == de(d); });
     }
     static void *copia_de(const void *e) { return nueva(de(e)); }
     static ARRAY *copia(ARRAY *a) { return arr_CopiaEstructurasConTipo(a, copia_de); }
-    static void concatena(ARRAY *d, ARRAY *o) { arr_ConcatenaEstructurasConTipo(d, o, copia_de, "fuzz", __LINE__); }
+    static void concatena(ARRAY *d, ARRAY *o)
+    {
+        arr_ConcatenaEstructurasConTipo(d, o, copia_de, "fuzz", __LINE__);
+    }
     static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
@@ -275,8 +302,14 @@ struct Punto2D {
     {
         return {d.ConsumeIntegralInRange(-3, 3), d.ConsumeIntegralInRange(-3, 3)};
     }
-    static void append(ARRAY *a, const T &v) { arr_AppendPunto2D(a, std::get<0>(v), std::get<1>(v)); }
-    static void inserta(ARRAY *a, ULONG p, const T &v) { arr_InsertarPunto2D(a, p, std::get<0>(v), std::get<1>(v)); }
+    static void append(ARRAY *a, const T &v)
+    {
+        arr_AppendPunto2D(a, std::get<0>(v), std::get<1>(v));
+    }
+    static void inserta(ARRAY *a, ULONG p, const T &v)
+    {
+        arr_InsertarPunto2D(a, p, std::get<0>(v), std::get<1>(v));
+    }
     static void borra(ARRAY *a, ULONG p) { arr_BorrarPunto2D(a, p); }
     static T get(ARRAY *a, ULONG p)
     {
@@ -285,9 +318,15 @@ struct Punto2D {
         arr_GetPunto2D(a, p, &x, &y);
         return {x, y};
     }
-    static void set(ARRAY *a, ULONG p, const T &v) { arr_SetPunto2D(a, p, std::get<0>(v), std::get<1>(v)); }
+    static void set(ARRAY *a, ULONG p, const T &v)
+    {
+        arr_SetPunto2D(a, p, std::get<0>(v), std::get<1>(v));
+    }
     static void reduce(ARRAY *a, ULONG n) { arr_ReduceTamanyoPunto2D(a, n); }
-    static int compara(double x1, double y1, double x2, double y2) { return orden_de(T{x1, y1}, T{x2, y2}); }
+    static int compara(double x1, double y1, double x2, double y2)
+    {
+        return orden_de(T{x1, y1}, T{x2, y2});
+    }
     static void ordena(ARRAY *a) { arr_QSortPunto2D(a, compara); }
     static void ordena_roto(ARRAY *a)
     {
@@ -296,19 +335,24 @@ struct Punto2D {
     static ULONG busca(ARRAY *a, const T &v)
     {
         return arr_BuscarPunto2D(a, std::get<0>(v), std::get<1>(v),
-                                 [](double x1, double y1, double x2, double y2) -> BOOL { return x1 == x2 && y1 == y2; });
+                                 [](double x1, double y1, double x2, double y2) -> BOOL {
+                                     return x1 == x2 && y1 == y2;
+                                 });
     }
     static ARRAY *copia(ARRAY *a) { return arr_CopiaPunto2D(a); }
     static void concatena(ARRAY *d, ARRAY *o) { arr_ConcatenaPunto2D(d, o); }
     static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
-        arr_nousar_RecorrePunto2D(a, [](double *, double *, void *) -> BOOL {
-            arr_AppendPunto2D(contado(), 0, 0);
-            arr_BorrarPunto2D(contado(), 0);
-            arr_DestruyePunto2D(&objetivo);
-            return CIERTO;
-        }, nullptr, "fuzz", __LINE__);
+        arr_nousar_RecorrePunto2D(
+            a,
+            [](double *, double *, void *) -> BOOL {
+                arr_AppendPunto2D(contado(), 0, 0);
+                arr_BorrarPunto2D(contado(), 0);
+                arr_DestruyePunto2D(&objetivo);
+                return CIERTO;
+            },
+            nullptr, "fuzz", __LINE__);
     }
     static void ordena_hostil(ARRAY *a)
     {
@@ -327,9 +371,13 @@ struct Punto3D {
     static ULONG num(ARRAY *a) { return arr_NumElemsPunto3D(a); }
     static T valor(FuzzedDataProvider &d)
     {
-        return {d.ConsumeIntegralInRange(-2, 2), d.ConsumeIntegralInRange(-2, 2), d.ConsumeIntegralInRange(-2, 2)};
+        return {d.ConsumeIntegralInRange(-2, 2), d.ConsumeIntegralInRange(-2, 2),
+                d.ConsumeIntegralInRange(-2, 2)};
     }
-    static void append(ARRAY *a, const T &v) { arr_AppendPunto3D(a, std::get<0>(v), std::get<1>(v), std::get<2>(v)); }
+    static void append(ARRAY *a, const T &v)
+    {
+        arr_AppendPunto3D(a, std::get<0>(v), std::get<1>(v), std::get<2>(v));
+    }
     static void inserta(ARRAY *a, ULONG p, const T &v)
     {
         arr_InsertarPunto3D(a, p, std::get<0>(v), std::get<1>(v), std::get<2>(v));
@@ -343,7 +391,10 @@ struct Punto3D {
         arr_GetPunto3D(a, p, &x, &y, &z);
         return {x, y, z};
     }
-    static void set(ARRAY *a, ULONG p, const T &v) { arr_SetPunto3D(a, p, std::get<0>(v), std::get<1>(v), std::get<2>(v)); }
+    static void set(ARRAY *a, ULONG p, const T &v)
+    {
+        arr_SetPunto3D(a, p, std::get<0>(v), std::get<1>(v), std::get<2>(v));
+    }
     static void reduce(ARRAY *a, ULONG n) { arr_ReduceTamanyoPunto3D(a, n); }
     static int compara(double x1, double y1, double z1, double x2, double y2, double z2)
     {
@@ -352,26 +403,31 @@ struct Punto3D {
     static void ordena(ARRAY *a) { arr_QSortPunto3D(a, compara); }
     static void ordena_roto(ARRAY *a)
     {
-        arr_QSortPunto3D(a, [](double, double, double, double, double, double) { return resultado_al_azar(); });
+        arr_QSortPunto3D(
+            a, [](double, double, double, double, double, double) { return resultado_al_azar(); });
     }
     static ULONG busca(ARRAY *a, const T &v)
     {
-        return arr_BuscarPunto3D(a, std::get<0>(v), std::get<1>(v), std::get<2>(v),
-                                 [](double x1, double y1, double z1, double x2, double y2, double z2) -> BOOL {
-                                     return x1 == x2 && y1 == y2 && z1 == z2;
-                                 });
+        return arr_BuscarPunto3D(
+            a, std::get<0>(v), std::get<1>(v), std::get<2>(v),
+            [](double x1, double y1, double z1, double x2, double y2, double z2) -> BOOL {
+                return x1 == x2 && y1 == y2 && z1 == z2;
+            });
     }
     static ARRAY *copia(ARRAY *a) { return arr_CopiaPunto3D(a); }
     static void concatena(ARRAY *d, ARRAY *o) { arr_ConcatenaPunto3D(d, o); }
     static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
-        arr_nousar_RecorrePunto3D(a, [](double *, double *, double *, void *) -> BOOL {
-            arr_AppendPunto3D(contado(), 0, 0, 0);
-            arr_BorrarPunto3D(contado(), 0);
-            arr_DestruyePunto3D(&objetivo);
-            return CIERTO;
-        }, nullptr, "fuzz", __LINE__);
+        arr_nousar_RecorrePunto3D(
+            a,
+            [](double *, double *, double *, void *) -> BOOL {
+                arr_AppendPunto3D(contado(), 0, 0, 0);
+                arr_BorrarPunto3D(contado(), 0);
+                arr_DestruyePunto3D(&objetivo);
+                return CIERTO;
+            },
+            nullptr, "fuzz", __LINE__);
     }
     static void ordena_hostil(ARRAY *a)
     {
@@ -388,7 +444,10 @@ struct Punto3D {
 struct Punto2DXPriv {
     using T = std::tuple<double, double, int>;
     static void *dato(int v) { return v == -1000 ? nullptr : new int(v); }
-    static int valor_de(const void *d) { return d == nullptr ? -1000 : *static_cast<const int *>(d); }
+    static int valor_de(const void *d)
+    {
+        return d == nullptr ? -1000 : *static_cast<const int *>(d);
+    }
     static void libera(void **d)
     {
         delete static_cast<int *>(*d);
@@ -400,7 +459,8 @@ struct Punto2DXPriv {
     static T valor(FuzzedDataProvider &d)
     {
         const int v = d.ConsumeIntegralInRange(-3, 3);
-        return {d.ConsumeIntegralInRange(-3, 3), d.ConsumeIntegralInRange(-3, 3), v == 3 ? -1000 : v};
+        return {d.ConsumeIntegralInRange(-3, 3), d.ConsumeIntegralInRange(-3, 3),
+                v == 3 ? -1000 : v};
     }
     static void append(ARRAY *a, const T &v)
     {
@@ -454,43 +514,56 @@ struct Punto2DXPriv {
     static void ordena(ARRAY *a) { arr_QSortPunto2DXPriv(a, compara); }
     static void ordena_roto(ARRAY *a)
     {
-        arr_QSortPunto2DXPriv(a, [](double, double, void *, double, double, void *) { return resultado_al_azar(); });
+        arr_QSortPunto2DXPriv(
+            a, [](double, double, void *, double, double, void *) { return resultado_al_azar(); });
     }
     static ULONG busca(ARRAY *a, const T &v)
     {
         const int buscado = std::get<2>(v);
-        return arr_BuscarPunto2DXPriv(a, std::get<0>(v), std::get<1>(v), const_cast<int *>(&buscado),
-                                      [](double x1, double y1, void *d1, double x2, double y2, void *d2) -> BOOL {
-                                          return x1 == x2 && y1 == y2 && valor_de(d1) == *static_cast<int *>(d2);
-                                      });
+        return arr_BuscarPunto2DXPriv(
+            a, std::get<0>(v), std::get<1>(v), const_cast<int *>(&buscado),
+            [](double x1, double y1, void *d1, double x2, double y2, void *d2) -> BOOL {
+                return x1 == x2 && y1 == y2 && valor_de(d1) == *static_cast<int *>(d2);
+            });
     }
     static void *copia_de(void *d) { return d == nullptr ? nullptr : new int(valor_de(d)); }
-    static ARRAY *copia(ARRAY *a) { return arr_CopiaPunto2DXPriv_nousar(a, copia_de, "fuzz", __LINE__); }
-    static void concatena(ARRAY *d, ARRAY *o) { arr_ConcatenaPunto2DXPriv_nousar(d, o, copia_de, "fuzz", __LINE__); }
+    static ARRAY *copia(ARRAY *a)
+    {
+        return arr_CopiaPunto2DXPriv_nousar(a, copia_de, "fuzz", __LINE__);
+    }
+    static void concatena(ARRAY *d, ARRAY *o)
+    {
+        arr_ConcatenaPunto2DXPriv_nousar(d, o, copia_de, "fuzz", __LINE__);
+    }
     static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
-        arr_RecorrePunto2DXPriv(a, [](double *, double *, void **, void *) -> BOOL {
-            arr_AppendPunto2DXPriv(contado(), 0, 0, nullptr);
-            arr_BorrarPunto2D(contado(), 0);
-            arr_DestruyePunto2DXPriv(&objetivo, libera);
-            return CIERTO;
-        }, nullptr);
+        arr_RecorrePunto2DXPriv(
+            a,
+            [](double *, double *, void **, void *) -> BOOL {
+                arr_AppendPunto2DXPriv(contado(), 0, 0, nullptr);
+                arr_BorrarPunto2D(contado(), 0);
+                arr_DestruyePunto2DXPriv(&objetivo, libera);
+                return CIERTO;
+            },
+            nullptr);
     }
     static void ordena_hostil(ARRAY *a)
     {
-        arr_QSortPunto2DXPriv(a, [](double x1, double y1, void *d1, double x2, double y2, void *d2) {
-            arr_AppendPunto2DXPriv(contado(), 0, 0, nullptr);
-            arr_DestruyePunto2DXPriv(&objetivo, libera);
-            return compara(x1, y1, d1, x2, y2, d2);
-        });
+        arr_QSortPunto2DXPriv(a,
+                              [](double x1, double y1, void *d1, double x2, double y2, void *d2) {
+                                  arr_AppendPunto2DXPriv(contado(), 0, 0, nullptr);
+                                  arr_DestruyePunto2DXPriv(&objetivo, libera);
+                                  return compara(x1, y1, d1, x2, y2, d2);
+                              });
     }
 };
 
 // ---- One family against its model ------------------------------------------------------------
 
-template <typename F> class Prueba {
-  public:
+template <typename F> class Prueba
+{
+public:
     using T = typename F::T;
     explicit Prueba(FuzzedDataProvider &datos) : datos_(datos), array_(F::crea()) {}
     ~Prueba() { F::destruye(&array_); }
@@ -500,24 +573,48 @@ template <typename F> class Prueba {
     void paso()
     {
         switch (datos_.ConsumeIntegralInRange(0, 11)) {
-        case 0: anyade(); break;
-        case 1: inserta(); break;
-        case 2: borra(); break;
-        case 3: escribe(); break;
-        case 4: reduce(); break;
-        case 5: ordena(); break;
-        case 6: ordena_roto(); break;
-        case 7: busca(); break;
-        case 8: copia_y_concatena(); break;
-        case 9: hostil([] { F::recorre_hostil(objetivo); }, false); break;
-        case 10: hostil([] { F::ordena_hostil(objetivo); }, true); break;
-        default: anyade_varios(); break;
+        case 0:
+            anyade();
+            break;
+        case 1:
+            inserta();
+            break;
+        case 2:
+            borra();
+            break;
+        case 3:
+            escribe();
+            break;
+        case 4:
+            reduce();
+            break;
+        case 5:
+            ordena();
+            break;
+        case 6:
+            ordena_roto();
+            break;
+        case 7:
+            busca();
+            break;
+        case 8:
+            copia_y_concatena();
+            break;
+        case 9:
+            hostil([] { F::recorre_hostil(objetivo); }, false);
+            break;
+        case 10:
+            hostil([] { F::ordena_hostil(objetivo); }, true);
+            break;
+        default:
+            anyade_varios();
+            break;
         }
         comprueba();
         ++pasos.total;
     }
 
-  private:
+private:
     ULONG num() const { return static_cast<ULONG>(modelo_.size()); }
     ULONG posicion(ULONG mas) { return datos_.ConsumeIntegralInRange<ULONG>(0, num() + mas - 1); }
 
@@ -608,7 +705,8 @@ template <typename F> class Prueba {
     {
         const T v = F::valor(datos_);
         const auto donde = std::find(modelo_.begin(), modelo_.end(), v);
-        const ULONG esperada = donde == modelo_.end() ? ARR_ULONG_MAX : static_cast<ULONG>(donde - modelo_.begin());
+        const ULONG esperada =
+            donde == modelo_.end() ? ARR_ULONG_MAX : static_cast<ULONG>(donde - modelo_.begin());
         exige(F::busca(array_, v) == esperada, "search");
     }
 
@@ -661,13 +759,27 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t tamanyo)
     arr_set_manejador_informes(cuenta, nullptr);
     FuzzedDataProvider datos(bytes, tamanyo);
     switch (datos.ConsumeIntegralInRange(0, 6)) {
-    case 0: prueba<ULong>(datos); break;
-    case 1: prueba<Cadena<char>>(datos); break;
-    case 2: prueba<Cadena<WCHAR>>(datos); break;
-    case 3: prueba<Estructura>(datos); break;
-    case 4: prueba<Punto2D>(datos); break;
-    case 5: prueba<Punto3D>(datos); break;
-    default: prueba<Punto2DXPriv>(datos); break;
+    case 0:
+        prueba<ULong>(datos);
+        break;
+    case 1:
+        prueba<Cadena<char>>(datos);
+        break;
+    case 2:
+        prueba<Cadena<WCHAR>>(datos);
+        break;
+    case 3:
+        prueba<Estructura>(datos);
+        break;
+    case 4:
+        prueba<Punto2D>(datos);
+        break;
+    case 5:
+        prueba<Punto3D>(datos);
+        break;
+    default:
+        prueba<Punto2DXPriv>(datos);
+        break;
     }
     return 0;
 }

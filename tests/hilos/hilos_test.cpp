@@ -14,7 +14,8 @@
 #include <thread>
 #include <vector>
 
-namespace {
+namespace
+{
 
 constexpr int HILOS = 8;
 constexpr int PASOS = 4000;
@@ -76,7 +77,8 @@ Resultado trabaja(unsigned semilla)
             break;
         default: {
             const auto donde = std::find(modelo.begin(), modelo.end(), v);
-            const ULONG esperada = donde == modelo.end() ? ARR_ULONG_MAX : static_cast<ULONG>(donde - modelo.begin());
+            const ULONG esperada =
+                donde == modelo.end() ? ARR_ULONG_MAX : static_cast<ULONG>(donde - modelo.begin());
             r.diferencias += arr_BuscarDouble(doubles, v, iguales) != esperada;
             break;
         }

@@ -14,7 +14,8 @@
 #include <string>
 #include <vector>
 
-namespace {
+namespace
+{
 
 // A handler that frees a reserve block of its own, as an application would, and asks for a retry.
 struct Reserva {
@@ -43,10 +44,17 @@ int descendente(LONG a, LONG b)
 
 BOOL iguales(double a, double b) { return a == b ? CIERTO : FALSO; }
 
+void *copia_entero(const void *entero) { return new int(*static_cast<const int *>(entero)); }
+void libera_entero(void **entero)
+{
+    delete static_cast<int *>(*entero);
+    *entero = nullptr;
+}
+
 // Counts the reports of the consistency check instead of printing them.
 void cuenta_informe(const arr_informe *, void *contexto) { ++*static_cast<size_t *>(contexto); }
 
-// Many operations over several families, each request of which may be the one that fails: what
+// Many operations over every kind of family, each request of which may be the one that fails: what
 // they leave, as text, and the reports of the full check of every array before it is destroyed.
 std::string escenario(size_t &informes_de_comprobacion)
 {
@@ -76,6 +84,26 @@ std::string escenario(size_t &informes_de_comprobacion)
     for (int i = 0; i < 500; ++i)
         arr_AppendPunto2D(puntos, i, -i);
     ARRAY *mas_puntos = arr_CopiaPunto2D(puntos);
+    ARRAY *circulo = arr_CreaPunto2D(0);
+    arr_AnyadirCirculoPunto2D(circulo, 0, 0, 10, 0, 64);
+    arr_ConcatenaPunto2D(mas_puntos, circulo);
+    ARRAY *invertidos = arr_InvertirPunto2D(mas_puntos);
+    ARRAY *puntos3d = arr_CreaPunto3D(0);
+    for (int i = 0; i < 400; ++i)
+        arr_AppendPunto3D(puntos3d, i, i, -i);
+    ARRAY *puntos3d_invertidos = arr_InvertirPunto3D(puntos3d);
+    ARRAY *anchas = arr_CreaCADENA_u(0);
+    for (int i = 0; i < 200; ++i)
+        arr_AppendCADENA_u(anchas, u"\u00f1and\u00fa");
+    ARRAY *mas_anchas = arr_CopiaCADENA_u(anchas);
+    arr_ConcatenaCADENA_u(mas_anchas, anchas);
+    ARRAY *bits = arr_CreaBIT(0);
+    for (int i = 0; i < 5000; ++i)
+        arr_AppendBIT(bits, i % 3 == 0 ? CIERTO : FALSO);
+    ARRAY *estructuras = arr_CreaPunteroConTipo(0);
+    for (int i = 0; i < 300; ++i)
+        arr_AppendPunteroConTipo(estructuras, new int(i));
+    ARRAY *copia_estructuras = arr_CopiaEstructurasConTipo(estructuras, copia_entero);
 
     for (ULONG i = 0; i < arr_NumElemsDouble(copia); i += 97)
         resultado += std::to_string(arr_GetDouble(copia, i)) + ",";
@@ -88,10 +116,20 @@ std::string escenario(size_t &informes_de_comprobacion)
     arr_GetPunto2D(mas_puntos, 499, &x, &y);
     resultado += std::to_string(x) + ";" + std::to_string(y);
     resultado += "|" + std::to_string(arr_BuscarDouble(copia, 42.0, iguales));
+    arr_GetPunto2D(invertidos, 3, &x, &y);
+    resultado += "|" + std::to_string(arr_NumElemsPunto2D(invertidos)) + ";" + std::to_string(x);
+    resultado += "|" + std::to_string(arr_NumElemsPunto3D(puntos3d_invertidos));
+    resultado += "|" + std::to_string(arr_NumElemsCADENA_u(mas_anchas));
+    resultado +=
+        "|" + std::to_string(arr_NumElemsBIT(bits)) + std::to_string(arr_GetBIT(bits, 4998));
+    resultado +=
+        "|" + std::to_string(*static_cast<int *>(arr_GetPunteroConTipo(copia_estructuras, 2)));
 
     const arr_manejador_informes anterior =
         arr_set_manejador_informes(cuenta_informe, &informes_de_comprobacion);
-    for (ARRAY *array : {doubles, copia, longs, cadenas, puntos, mas_puntos})
+    for (ARRAY *array :
+         {doubles, copia, longs, cadenas, puntos, mas_puntos, circulo, invertidos, puntos3d,
+          puntos3d_invertidos, anchas, mas_anchas, bits, estructuras, copia_estructuras})
         arrayprv_comprueba_array(array, 1);
     arr_set_manejador_informes(anterior, nullptr);
     arr_DestruyeDouble(&doubles);
@@ -100,6 +138,15 @@ std::string escenario(size_t &informes_de_comprobacion)
     arr_DestruyeCADENA(&cadenas);
     arr_DestruyePunto2D(&puntos);
     arr_DestruyePunto2D(&mas_puntos);
+    arr_DestruyePunto2D(&circulo);
+    arr_DestruyePunto2D(&invertidos);
+    arr_DestruyePunto3D(&puntos3d);
+    arr_DestruyePunto3D(&puntos3d_invertidos);
+    arr_DestruyeCADENA_u(&anchas);
+    arr_DestruyeCADENA_u(&mas_anchas);
+    arr_DestruyeBIT(&bits);
+    arr_DestruyeEstructurasConTipo(&estructuras, libera_entero);
+    arr_DestruyeEstructurasConTipo(&copia_estructuras, libera_entero);
     return resultado;
 }
 

@@ -180,7 +180,7 @@ ARRAYS_API arr_ulong64_t arr_num_informes(void) ARR_NOEXCEPT;
  * for a bit array) and element size. */
 ARRAYS_API arr_bool_t arryprv_es_array_correcto(const ARRAY *array, int32_t *tipo,
                                                 int32_t *num_elems,
-                                          uint64_t *size_elem) ARR_NOEXCEPT;
+                                                uint64_t *size_elem) ARR_NOEXCEPT;
 
 /* Callbacks that change the array they are called for. While a traversal, a sort, a search, an
  * equality or a destruction calls back into the application (an action, a comparator, a
@@ -326,9 +326,9 @@ ARRAYS_API void widestr_nousar_destruye(arr_wchar_t **cadena, const char *ubicac
     ARRAYS_API arr_ulong_t arr_BuscarUnico##F(ARRAY *array,                                       \
                                               T valor ARR_BUSCA_CON_##COMPARA(F)) ARR_NOEXCEPT;   \
     ARRAYS_API arr_bool_t arr_Existe##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),         \
-                                  arr_ulong_t *posicion) ARR_NOEXCEPT;                            \
+                                        arr_ulong_t *posicion) ARR_NOEXCEPT;                      \
     ARRAYS_API arr_bool_t arr_ExisteUnico##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),    \
-                                       arr_ulong_t *posicion) ARR_NOEXCEPT;                       \
+                                             arr_ulong_t *posicion) ARR_NOEXCEPT;                 \
     ARRAYS_API void arr_QSort##F(ARRAY *array, arr_orden_##F comparador) ARR_NOEXCEPT;            \
     ARRAYS_API arr_bool_t arr_SonIguales##F(ARRAY *array1,                                        \
                                             ARRAY *array2 ARR_IGUALES_CON_##COMPARA(F)) ARR_NOEXCEPT; \
@@ -342,7 +342,7 @@ ARRAYS_API void widestr_nousar_destruye(arr_wchar_t **cadena, const char *ubicac
     SUMATORIO(ARRAYS_API T arr_Sumatorio##F(const ARRAY *array) ARR_NOEXCEPT;)                    \
     RECORRE(ARRAYS_API void arr_nousar_Recorre##F(ARRAY *array, arr_accion_##F accion,            \
             void *datos,                                                                          \
-                                                  const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;)
+            const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;)
 
 ARR_FAMILIAS_ESCALARES(ARR_DECLARA_FAMILIA_ESCALAR)
 
@@ -358,15 +358,15 @@ ARRAYS_API void arr_MinimoMaximoDouble(const ARRAY *array, double *minimo, arr_u
 /* TRUE when both arrays have the same count and no pair of elements at the same position
  * differs by more than `tolerancia` (a NaN difference counts as equal). */
 ARRAYS_API arr_bool_t arr_SonIgualesDoubleConTolerancia(const ARRAY *array1, const ARRAY *array2,
-                                                  double tolerancia) ARR_NOEXCEPT;
+                                                        double tolerancia) ARR_NOEXCEPT;
 /* The same for two pointer arrays (arr_CreaPunteroConTipo) whose elements are Double arrays,
  * compared pair by pair up to the first unequal pair. */
 ARRAYS_API arr_bool_t arr_SonIgualesArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
-                                                               const ARRAY *array2,
+                                                                     const ARRAY *array2,
                                                                double tolerancia) ARR_NOEXCEPT;
 /* The same one level deeper: pointer arrays whose elements are such pointer arrays. */
 ARRAYS_API arr_bool_t arr_SonIgualesArrArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
-                                                                  const ARRAY *array2,
+                                                                        const ARRAY *array2,
                                                                   double tolerancia) ARR_NOEXCEPT;
 
 /* Turns every price of a Double array from pesetas into euros (divided by 166.386), rounded to
@@ -470,7 +470,7 @@ ARRAYS_API void arr_InicializaBIT(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
                                      arr_ulong_t *posicion)                                       \
         ARR_NOEXCEPT;                                                                             \
     ARRAYS_API arr_bool_t P##_existe_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad,      \
-                                     arr_ulong_t *posicion) ARR_NOEXCEPT;                         \
+                                           arr_ulong_t *posicion) ARR_NOEXCEPT;                   \
     ARRAYS_API void P##_qsort(ARRAY *array, arr_orden_##F comparador) ARR_NOEXCEPT;               \
     ARRAYS_API arr_bool_t P##_iguales(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
 
@@ -578,17 +578,17 @@ ARR_DECLARA_ARULONG(arulong64, ULong64, arr_ulong64_t)
                                                         const C *cadena PREDICADO(S))             \
         ARR_NOEXCEPT;                                                                             \
     ARRAYS_API arr_ulong_t arr_BuscarSiguiente##CLASE##CADENA##S(ARRAY *array,                    \
-            arr_ulong_t pos_inicial,                                                              \
-                                                           const C *cadena PREDICADO(S))          \
+                                                                 arr_ulong_t pos_inicial,         \
+                                                                 const C *cadena PREDICADO(S))    \
         ARR_NOEXCEPT;                                                                             \
     ARRAYS_API arr_ulong_t arr_BuscarUnica##CLASE##CADENA##S(ARRAY *array,                        \
-            const C *cadena PREDICADO(S))                                                         \
+                                                             const C *cadena PREDICADO(S))        \
         ARR_NOEXCEPT;                                                                             \
     ARRAYS_API arr_bool_t arr_Existe##CLASE##CADENA##S(ARRAY *array, const C *cadena PREDICADO(S), \
-                                                 arr_ulong_t *posicion) ARR_NOEXCEPT;             \
+                                                       arr_ulong_t *posicion) ARR_NOEXCEPT;       \
     ARRAYS_API arr_bool_t arr_ExisteUnica##CLASE##CADENA##S(ARRAY *array,                         \
                                                             const C *cadena PREDICADO(S),         \
-                                                      arr_ulong_t *posicion) ARR_NOEXCEPT;
+                                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
 
 /* Every function of a string family S of character type C that both widths have. */
 #define ARR_DECLARA_FAMILIA_CADENA(S, C)                                                          \
@@ -608,9 +608,9 @@ ARR_DECLARA_ARULONG(arulong64, ULong64, arr_ulong64_t)
                                              C **cadena) ARR_NOEXCEPT;                            \
     ARRAYS_API void arr_QSortCADENA##S(ARRAY *array, arr_orden_CADENA##S comparador) ARR_NOEXCEPT; \
     ARRAYS_API arr_bool_t arr_SonIgualesCADENA##S(ARRAY *array1, ARRAY *array2,                   \
-                                            arr_igualdad_CADENA##S igualdad) ARR_NOEXCEPT;        \
+                                                  arr_igualdad_CADENA##S igualdad) ARR_NOEXCEPT;  \
     ARRAYS_API arr_bool_t arr_SonIgualesExactamenteCADENA##S(ARRAY *array1,                       \
-            ARRAY *array2) ARR_NOEXCEPT;                                                          \
+                                                             ARRAY *array2) ARR_NOEXCEPT;         \
     ARRAYS_API C *arr_cadena_de_referencias##S(ARRAY *array, C inicio, C separador, C fin)        \
         ARR_NOEXCEPT;                                                                             \
     ARRAYS_API void nousar_RecorreCADENA##S(ARRAY *array, arr_accion_CADENA##S accion,            \
@@ -717,17 +717,17 @@ ARRAYS_API arr_ulong_t arr_BuscarPunteroConTipo(ARRAY *array, const void *punter
 ARRAYS_API arr_ulong_t arr_BuscarEstructuraConTipo(ARRAY *array, const void *dato,
                                              arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
 ARRAYS_API arr_ulong_t arr_BuscarSiguienteEstructuraConTipo(ARRAY *array, arr_ulong_t pos_inicial,
-                                                      const void *dato,
+                                                            const void *dato,
                                                       arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
 ARRAYS_API arr_ulong_t arr_BuscarUnicaEstructuraConTipo(ARRAY *array, const void *dato,
                                                   arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
 /* Found? posicion (if not NULL) gets the position or ARR_ULONG_MAX. */
 ARRAYS_API arr_bool_t arr_ExisteEstructuraConTipo(ARRAY *array, const void *dato,
-                                            arr_igualdad_PunteroConTipo igualdad,
-                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
+                                                  arr_igualdad_PunteroConTipo igualdad,
+                                                  arr_ulong_t *posicion) ARR_NOEXCEPT;
 ARRAYS_API arr_bool_t arr_ExisteUnicaEstructuraConTipo(ARRAY *array, const void *dato,
-                                                 arr_igualdad_PunteroConTipo igualdad,
-                                                 arr_ulong_t *posicion) ARR_NOEXCEPT;
+                                                       arr_igualdad_PunteroConTipo igualdad,
+                                                       arr_ulong_t *posicion) ARR_NOEXCEPT;
 /* The element of the unique match (one function under both names); a missing match is
  * reported ("posicion != ULONG_MAX") and yields NULL. */
 ARRAYS_API void *nousar_arr_dame_unica_estructura(ARRAY *array, const void *dato,
@@ -835,29 +835,29 @@ ARRAYS_API void arr_SetPunto2D(ARRAY *array, arr_ulong_t pos, double x, double y
 ARRAYS_API void arr_BorrarPunto2D(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
 /* First position whose point matches (x, y) by the predicate, or ARR_ULONG_MAX. */
 ARRAYS_API arr_ulong_t arr_BuscarPunto2D(ARRAY *array, double x, double y,
-                                   arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
+                                         arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
 /* The same; a second match is reported and the last match is the result. */
 ARRAYS_API arr_ulong_t arr_BuscarUnicoPunto2D(ARRAY *array, double x, double y,
-                                        arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
+                                              arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
 /* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
 ARRAYS_API arr_bool_t arr_ExistePunto2D(ARRAY *array, double x, double y,
                                         arr_igualdad_Punto2D igualdad,
-                                  arr_ulong_t *posicion) ARR_NOEXCEPT;
+                                        arr_ulong_t *posicion) ARR_NOEXCEPT;
 ARRAYS_API arr_bool_t arr_ExisteUnicoPunto2D(ARRAY *array, double x, double y,
                                        arr_igualdad_Punto2D igualdad, arr_ulong_t *posicion) ARR_NOEXCEPT;
 /* Sorts in place by the comparator. */
 ARRAYS_API void arr_QSortPunto2D(ARRAY *array, arr_orden_Punto2D comparador) ARR_NOEXCEPT;
 /* Same count and every pair of points equal by the predicate. */
 ARRAYS_API arr_bool_t arr_SonIgualesPunto2D(ARRAY *array1, ARRAY *array2,
-                                      arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
+                                            arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
 /* Same count and, point by point, |x1 - x2| <= tolerancia and |y1 - y2| <= tolerancia (a square
  * per coordinate, not a distance). Either array may carry private data. */
 ARRAYS_API arr_bool_t arr_ArraysDePunto2DIguales(const ARRAY *array1, const ARRAY *array2,
-                                           double tolerancia) ARR_NOEXCEPT;
+                                                 double tolerancia) ARR_NOEXCEPT;
 /* array1 and array2 are typed pointer arrays whose elements are 2D point arrays: same count
  * and the point arrays at each position equal by arr_ArraysDePunto2DIguales. */
 ARRAYS_API arr_bool_t arr_SonIgualesArrPunteroArrPunto2DConTolerancia(const ARRAY *array1,
-                                                                const ARRAY *array2,
+                                                                      const ARRAY *array2,
                                                                 double tolerancia) ARR_NOEXCEPT;
 /* Calls accion(&x, &y, datos) for every point in order; ubicacion and linea name the caller in
  * a report of a traversal already running. */
@@ -918,22 +918,22 @@ ARRAYS_API void arr_SetPunto2DXPriv(ARRAY *array, arr_ulong_t pos, double x, dou
 ARRAYS_API void arr_BorrarPunto2DXPriv(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
 /* First position whose point matches (x, y, datos) by the predicate, or ARR_ULONG_MAX. */
 ARRAYS_API arr_ulong_t arr_BuscarPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
-                                        arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
+                                              arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
 /* The same; a second match is reported and the last match is the result. */
 ARRAYS_API arr_ulong_t arr_BuscarUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
-                                             arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
+                                                   arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
 /* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
 ARRAYS_API arr_bool_t arr_ExistePunto2DXPriv(ARRAY *array, double x, double y, void *datos,
-                                       arr_igualdad_Punto2DXPriv igualdad,
-                                       arr_ulong_t *posicion) ARR_NOEXCEPT;
+                                             arr_igualdad_Punto2DXPriv igualdad,
+                                             arr_ulong_t *posicion) ARR_NOEXCEPT;
 ARRAYS_API arr_bool_t arr_ExisteUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
-                                            arr_igualdad_Punto2DXPriv igualdad,
-                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
+                                                  arr_igualdad_Punto2DXPriv igualdad,
+                                                  arr_ulong_t *posicion) ARR_NOEXCEPT;
 /* Sorts in place by the comparator. */
 ARRAYS_API void arr_QSortPunto2DXPriv(ARRAY *array, arr_orden_Punto2DXPriv comparador) ARR_NOEXCEPT;
 /* Same count and every pair of points equal by the predicate. */
 ARRAYS_API arr_bool_t arr_SonIgualesPunto2DXPriv(ARRAY *array1, ARRAY *array2,
-                                           arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
+                                                 arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
 /* Calls accion(&x, &y, &datos_punto, datos) for every point in order. */
 ARRAYS_API void arr_RecorrePunto2DXPriv(ARRAY *array, arr_accion_Punto2DXPriv accion,
                                         void *datos) ARR_NOEXCEPT;
@@ -1000,10 +1000,10 @@ ARRAYS_API void arr_SetPunto3D(ARRAY *array, arr_ulong_t pos, double x, double y
 ARRAYS_API void arr_BorrarPunto3D(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
 /* First position whose point matches (x, y, z) by the predicate, or ARR_ULONG_MAX. */
 ARRAYS_API arr_ulong_t arr_BuscarPunto3D(ARRAY *array, double x, double y, double z,
-                                   arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
+                                         arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
 /* The same; a second match is reported and the last match is the result. */
 ARRAYS_API arr_ulong_t arr_BuscarUnicoPunto3D(ARRAY *array, double x, double y, double z,
-                                        arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
+                                              arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
 /* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
 ARRAYS_API arr_bool_t arr_ExistePunto3D(ARRAY *array, double x, double y, double z,
                                   arr_igualdad_Punto3D igualdad, arr_ulong_t *posicion) ARR_NOEXCEPT;
@@ -1013,11 +1013,11 @@ ARRAYS_API arr_bool_t arr_ExisteUnicoPunto3D(ARRAY *array, double x, double y, d
 ARRAYS_API void arr_QSortPunto3D(ARRAY *array, arr_orden_Punto3D comparador) ARR_NOEXCEPT;
 /* Same count and every pair of points equal by the predicate. */
 ARRAYS_API arr_bool_t arr_SonIgualesPunto3D(ARRAY *array1, ARRAY *array2,
-                                      arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
+                                            arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
 /* Same count and, point by point, no coordinate differing by more than tolerancia (a box per
  * coordinate, not a distance). */
 ARRAYS_API arr_bool_t arr_SonIgualesPunto3DConTolerancia(const ARRAY *array1, const ARRAY *array2,
-                                                   double tolerancia) ARR_NOEXCEPT;
+                                                         double tolerancia) ARR_NOEXCEPT;
 /* A new array with the points in reverse order; the argument is unchanged. */
 ARRAYS_API ARRAY *arr_InvertirPunto3D(const ARRAY *array) ARR_NOEXCEPT;
 /* Calls accion(&x, &y, &z, datos) for every point in order; ubicacion and linea name the caller

@@ -18,6 +18,7 @@
 #pragma once
 
 #include "arrays.h"
+#include "services/memoria.h"
 
 #include <atomic>
 #include <cstddef>
@@ -442,10 +443,17 @@ template <size_t TAMANYO> inline size_t arrayprv_tamanyo_rapido(const ARRAY *arr
     return TAMANYO != 0 ? TAMANYO : size_t{array->size_elem};
 }
 
+// The validity mark of a live header, read only where the header may be read (a destroyed one
+// is poisoned in AddressSanitizer builds). Every check of a handle's mark goes through this.
+inline bool arrayprv_marca_valida(const ARRAY *array)
+{
+    return zarpspy_cabecera_legible(array) && array->mascara_debug == MASCARA_DEBUG;
+}
+
 // What every fast path below checks first: a live array of the tag.
 inline bool arrayprv_vivo_de_tipo(const ARRAY *array, tipo_elem_array tipo_elem)
 {
-    return array != nullptr && array->mascara_debug == MASCARA_DEBUG && array->tipo_elem == tipo_elem;
+    return array != nullptr && arrayprv_marca_valida(array) && array->tipo_elem == tipo_elem;
 }
 
 // A live array of the tag that no traversal is running over: it may be written.

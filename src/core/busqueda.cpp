@@ -207,17 +207,17 @@ BOOL arrayprv_son_iguales(const ARRAY *array1, const ARRAY *array2, const fnc_co
     if (arrayprv_es_modo_comprobacion()) {
         arrayprv_comprueba_array(array1, 0);
         arrayprv_comprueba_array(array2, 0);
-        if (array1 == nullptr || array2 == nullptr || array1->mascara_debug != MASCARA_DEBUG ||
-            array2->mascara_debug != MASCARA_DEBUG)
+        if (array1 == nullptr || array2 == nullptr || !arrayprv_marca_valida(array1) ||
+            !arrayprv_marca_valida(array2))
             return FALSO;
     } else {
         const bool hay_array1 = ARR_EXIGE(array1 != nullptr, "(array1) != NULL");
         const bool hay_array2 = ARR_EXIGE(array2 != nullptr, "(array2) != NULL");
         if (!(hay_array1 && hay_array2))
             return FALSO;
-        const bool vivo1 = ARR_EXIGE(array1->mascara_debug == MASCARA_DEBUG,
+        const bool vivo1 = ARR_EXIGE(arrayprv_marca_valida(array1),
                                      "array1->mascara_debug == MASCARA_DEBUG");
-        const bool vivo2 = ARR_EXIGE(array2->mascara_debug == MASCARA_DEBUG,
+        const bool vivo2 = ARR_EXIGE(arrayprv_marca_valida(array2),
                                      "array2->mascara_debug == MASCARA_DEBUG");
         if (!(vivo1 && vivo2))
             return FALSO;

@@ -62,10 +62,10 @@ bool arrayprv_entrada(const ARRAY *array, const TextosEntrada &textos, bool guar
 {
     if (modo != Modo::ninguno && arrayprv_es_modo_comprobacion()) {
         arrayprv_comprueba_array(array, modo == Modo::estricto);
-        return array != nullptr && array->mascara_debug == MASCARA_DEBUG;
+        return array != nullptr && arrayprv_marca_valida(array);
     }
     if (!ARR_EXIGE(array != nullptr, textos.nulo) ||
-        !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, textos.mascara))
+        !ARR_EXIGE(arrayprv_marca_valida(array), textos.mascara))
         return false;
     if (guardas) {
         ARR_EXIGE(array->en_bucle == FALSO, textos.en_bucle);

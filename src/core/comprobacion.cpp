@@ -74,7 +74,7 @@ BOOL arrayprv_decide_modo_comprobacion()
 void arrayprv_comprueba_array(const ARRAY *array, BOOL modo)
 {
     if (!ARR_EXIGE(array, "array") ||
-        !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, "array->mascara_debug == MASCARA_DEBUG"))
+        !ARR_EXIGE(arrayprv_marca_valida(array), "array->mascara_debug == MASCARA_DEBUG"))
         return;
     arrayprv_comprueba_en_bucle(array->en_bucle, modo, UBICACION, __LINE__);
     if (array->num_filas > 0) {
@@ -94,7 +94,7 @@ extern "C" ARRAYS_API BOOL arryprv_es_array_correcto(const ARRAY *array, int32_t
                                                      int32_t *num_elems,
                                                      uint64_t *size_elem) noexcept
 {
-    if (array == nullptr || array->mascara_debug != MASCARA_DEBUG)
+    if (array == nullptr || !arrayprv_marca_valida(array))
         return FALSO;
     // The tag as the number stored: a header that is not live may hold any value there.
     int32_t etiqueta;

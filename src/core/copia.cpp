@@ -51,17 +51,17 @@ bool entrada_concatena(const ARRAY *dest, const ARRAY *org)
     if (arrayprv_es_modo_comprobacion()) {
         arrayprv_comprueba_array(org, 0);
         arrayprv_comprueba_array(dest, 1);
-        return org != nullptr && dest != nullptr && org->mascara_debug == MASCARA_DEBUG &&
-               dest->mascara_debug == MASCARA_DEBUG;
+        return org != nullptr && dest != nullptr && arrayprv_marca_valida(org) &&
+               arrayprv_marca_valida(dest);
     }
     const bool hay_org = ARR_EXIGE(org != nullptr, "(org) != NULL");
     const bool hay_dest = ARR_EXIGE(dest != nullptr, "(dest) != NULL");
     if (!(hay_org && hay_dest))
         return false;
     const bool dest_vivo =
-        ARR_EXIGE(dest->mascara_debug == MASCARA_DEBUG, "dest->mascara_debug == MASCARA_DEBUG");
+        ARR_EXIGE(arrayprv_marca_valida(dest), "dest->mascara_debug == MASCARA_DEBUG");
     const bool org_vivo =
-        ARR_EXIGE(org->mascara_debug == MASCARA_DEBUG, "org->mascara_debug == MASCARA_DEBUG");
+        ARR_EXIGE(arrayprv_marca_valida(org), "org->mascara_debug == MASCARA_DEBUG");
     if (!(dest_vivo && org_vivo))
         return false;
     ARR_EXIGE(dest->en_bucle == FALSO, "dest->en_bucle == FALSO");

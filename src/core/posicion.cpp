@@ -153,7 +153,7 @@ void arrayprv_siguiente_posicion(const ARRAY *array, posicion_array *posi)
 bool arrayprv_comprueba_posicion(const ARRAY *array, const posicion_array *posi)
 {
     return ARR_EXIGE(array != nullptr, "(array) != NULL") &&
-           ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, "array->mascara_debug == MASCARA_DEBUG") &&
+           ARR_EXIGE(arrayprv_marca_valida(array), "array->mascara_debug == MASCARA_DEBUG") &&
            ARR_EXIGE(array->long_filas != nullptr, "(array->long_filas) != NULL") &&
            ARR_EXIGE(posi != nullptr, "(posi) != NULL") &&
            ARR_EXIGE(posi->fila < array->num_filas, "posi->fila < array->num_filas") &&

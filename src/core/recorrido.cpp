@@ -99,7 +99,7 @@ void **puntero_de(const ARRAY *array, char *elemento)
 template <typename Operacion>
 void opera(ARRAY *array, ULONG real_pos, Operacion &&operacion)
 {
-    if (array == nullptr || array->mascara_debug != MASCARA_DEBUG ||
+    if (array == nullptr || !arrayprv_marca_valida(array) ||
         !ARR_EXIGE(array->tipo_elem == elem_PUNTERO_NO_USAR ||
                        array->tipo_elem == elem_PUNTO2DX_NO_USAR,
                    "array->tipo_elem == elem_PUNTERO_NO_USAR || "
@@ -134,11 +134,11 @@ void arrayprv_recorre(ARRAY *array, const fnc_accion *acciones, void *datos,
 {
     if (arrayprv_es_modo_comprobacion()) {
         arrayprv_comprueba_array(array, modo);
-        if (array == nullptr || array->mascara_debug != MASCARA_DEBUG)
+        if (array == nullptr || !arrayprv_marca_valida(array))
             return;
     } else {
         if (!ARR_EXIGE(array, "array") ||
-            !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, "array->mascara_debug == MASCARA_DEBUG"))
+            !ARR_EXIGE(arrayprv_marca_valida(array), "array->mascara_debug == MASCARA_DEBUG"))
             return;
         arrayprv_comprueba_en_bucle(array->en_bucle, modo, ubicacion, linea);
         if (lectura == 0)
@@ -160,11 +160,11 @@ void arrayprv_recorre_rango(ARRAY *array, ULONG inic, ULONG fin, const fnc_accio
 {
     if (arrayprv_es_modo_comprobacion()) {
         arrayprv_comprueba_array(array, modo);
-        if (array == nullptr || array->mascara_debug != MASCARA_DEBUG)
+        if (array == nullptr || !arrayprv_marca_valida(array))
             return;
     } else {
         if (!ARR_EXIGE(array, "array") ||
-            !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, "array->mascara_debug == MASCARA_DEBUG"))
+            !ARR_EXIGE(arrayprv_marca_valida(array), "array->mascara_debug == MASCARA_DEBUG"))
             return;
         arrayprv_comprueba_en_bucle(array->en_bucle, modo, UBICACION, __LINE__);
         arrayprv_comprueba_en_bucle(array->en_bucle_lectura, modo, UBICACION, __LINE__);

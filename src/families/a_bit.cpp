@@ -16,7 +16,7 @@ constexpr const char *UBICACION = "a_bit (ARRAYS.DLL)";
 bool es_array_de_bits(const ARRAY *array)
 {
     return ARR_EXIGE(array != nullptr, "(array) != NULL") &&
-           ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG,
+           ARR_EXIGE(arrayprv_marca_valida(array),
                      "array->mascara_debug == MASCARA_DEBUG") &&
            ARR_EXIGE(array->tipo_elem == elem_BIT_NO_USAR, "array->tipo_elem == elem_BIT_NO_USAR");
 }
@@ -29,7 +29,7 @@ BYTE mascara_de(ULONG pos) { return static_cast<BYTE>(1u << (pos & 7)); }
 BYTE *byte_de(const ARRAY *array, ULONG pos)
 {
     if (!ARR_EXIGE(array != nullptr, "(array) != NULL") ||
-        !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, "array->mascara_debug == MASCARA_DEBUG"))
+        !ARR_EXIGE(arrayprv_marca_valida(array), "array->mascara_debug == MASCARA_DEBUG"))
         return nullptr;
     const bool de_bits =
         ARR_EXIGE(array->tipo_elem == elem_BIT_NO_USAR, "array->tipo_elem == elem_BIT_NO_USAR");

@@ -73,7 +73,7 @@ template <typename C> struct FamiliaCadena {
     // Elements of a live array, without a report: tells whether an engine call added one.
     static size_t num_elems_sin_informe(const ARRAY *array)
     {
-        return array != nullptr && array->mascara_debug == MASCARA_DEBUG ? array->num_elems : 0;
+        return array != nullptr && arrayprv_marca_valida(array) ? array->num_elems : 0;
     }
 
     // Runs `pon`, an engine call that adds one element; true when the element was added.

@@ -75,7 +75,7 @@ extern "C" void *nousar_arr_dame_unica_estructura(ARRAY *array, const void *dato
                                                   arr_igualdad_PunteroConTipo igualdad) noexcept
 {
     const ULONG posicion = busca(array, 0, dato, igualdad, CIERTO);
-    if (array == nullptr || array->mascara_debug != MASCARA_DEBUG ||
+    if (array == nullptr || !arrayprv_marca_valida(array) ||
         array->tipo_elem != elem_PUNTERO_NO_USAR) // reported by the search
         return nullptr;
     // A missing match goes on to read position ULONG_MAX, which the element read reports.

@@ -20,11 +20,11 @@ bool punteros_cabecera(const ARRAY *array, const TextosEntrada &textos, bool gua
 {
     if (modo != Modo::ninguno && arrayprv_es_modo_comprobacion()) {
         arrayprv_comprueba_array(array, modo == Modo::estricto);
-        if (array == nullptr || array->mascara_debug != MASCARA_DEBUG)
+        if (array == nullptr || !arrayprv_marca_valida(array))
             return false;
     } else {
         if (!ARR_EXIGE(array != nullptr, textos.nulo) ||
-            !ARR_EXIGE(array->mascara_debug == MASCARA_DEBUG, textos.mascara))
+            !ARR_EXIGE(arrayprv_marca_valida(array), textos.mascara))
             return false;
         if (guardas) {
             ARR_EXIGE(array->en_bucle == FALSO, textos.en_bucle);

@@ -13,7 +13,7 @@ constexpr const char *UBICACION = Escalar<TAG>::UBICACION;
 // the plain one (whose check then reports any other type).
 tipo_elem_array tipo_punto2D(const ARRAY *array)
 {
-    const bool con_datos = array != nullptr && array->mascara_debug == MASCARA_DEBUG &&
+    const bool con_datos = array != nullptr && arrayprv_marca_valida(array) &&
                            array->tipo_elem == elem_PUNTO2DX_NO_USAR;
     return con_datos ? elem_PUNTO2DX_NO_USAR : elem_PUNTO2D_NO_USAR;
 }

@@ -180,7 +180,7 @@ extern "C" void arr_ConcatenaPunto2DXPriv_nousar(ARRAY *dest, ARRAY *org,
     if (!ARR_EXIGE(org != nullptr, "(org) != NULL") ||
         !arrayprv_entrada_tipo(dest, TEXTOS_DESTINO, true, Modo::estricto, TAG,
                                "dest->tipo_elem == elem_PUNTO2DX_NO_USAR") ||
-        !ARR_EXIGE(org->mascara_debug == MASCARA_DEBUG, "org->mascara_debug == MASCARA_DEBUG") ||
+        !ARR_EXIGE(arrayprv_marca_valida(org), "org->mascara_debug == MASCARA_DEBUG") ||
         !arrayprv_admite_cambio(dest, TEXTOS_DESTINO))
         return;
     // An array appended to itself would never reach the end of its growing count.

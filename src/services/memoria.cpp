@@ -6,6 +6,8 @@
 #include "services/losas.h"
 #include "services/sin_memoria.h"
 
+#include <sanitizer/asan_interface.h>
+
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
@@ -85,6 +87,7 @@ struct PoolCabeceras {
                 if (!libres.empty()) {
                     void *slot = libres.back();
                     libres.pop_back();
+                    ASAN_UNPOISON_MEMORY_REGION(slot, tamanyo_slot);
                     return slot;
                 }
             }
@@ -102,6 +105,7 @@ struct PoolCabeceras {
     void libera(void *slot)
     {
         std::lock_guard<std::mutex> guarda(cerrojo);
+        ASAN_POISON_MEMORY_REGION(slot, tamanyo_slot);
         libres.push_back(slot);
     }
 };

@@ -23,9 +23,31 @@ size_t zarpspy_tamanyo_bloque(const void *bloque);
 void zarpspy_nousar_free_pp(void *puntero, size_t tamanyo_item);
 
 // A header-sized slot from the type-stable pool, and its return to the pool (*puntero is set to
-// NULL). Every slot of the pool has the size of the first request.
+// NULL). Every slot of the pool has the size of the first request. In AddressSanitizer builds a
+// returned slot is poisoned until the pool hands it out again, so that a stale handle read
+// anywhere but through zarpspy_cabecera_legible is an error ASan reports.
 void *zarpspy_reserva_cabecera(size_t tamanyo);
 void zarpspy_libera_cabecera(void *puntero);
+
+// Whether the header slot at `cabecera` may be read: always, except a returned slot in an
+// AddressSanitizer build. Every check of a handle asks this before it reads the validity mark.
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define ZARPSPY_CON_ASAN 1
+#endif
+#endif
+#if defined(__SANITIZE_ADDRESS__)
+#define ZARPSPY_CON_ASAN 1
+#endif
+#if defined(ZARPSPY_CON_ASAN)
+extern "C" int __asan_address_is_poisoned(void const volatile *direccion);
+inline bool zarpspy_cabecera_legible(const void *cabecera)
+{
+    return __asan_address_is_poisoned(cabecera) == 0;
+}
+#else
+inline bool zarpspy_cabecera_legible(const void *) { return true; }
+#endif
 
 // What is allocated now, through this service and the header pool.
 size_t zarpspy_bloques_vivos();

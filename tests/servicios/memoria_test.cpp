@@ -7,6 +7,7 @@
 #include "services/losas.h"
 #include "services/memoria.h"
 
+#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -160,14 +161,33 @@ TEST_F(Memoria, HeaderSlotIsCountedUntilReturnedToThePool)
     EXPECT_EQ(balance.bytes(), 0u);
 }
 
-TEST_F(Memoria, DestroyedHeaderStaysReadableWithItsMarkCleared)
+// A destroyed header is never a live one to the checks; it stays mapped with its mark cleared,
+// and in an AddressSanitizer build its slot is poisoned, so that any other read of it is caught.
+TEST_F(Memoria, DestroyedHeaderIsDeadToTheChecksAndPoisonedUnderASan)
 {
     ARRAY *array = arr_CreaDouble(3);
     const ARRAY *copia_del_handle = array;
-    EXPECT_EQ(copia_del_handle->mascara_debug, MASCARA_DEBUG);
+    EXPECT_TRUE(zarpspy_cabecera_legible(copia_del_handle));
+    EXPECT_TRUE(arrayprv_marca_valida(copia_del_handle));
     arr_DestruyeDouble(&array);
     EXPECT_EQ(array, nullptr);
+    EXPECT_FALSE(arrayprv_marca_valida(copia_del_handle));
+#if defined(ZARPSPY_CON_ASAN)
+    EXPECT_FALSE(zarpspy_cabecera_legible(copia_del_handle));
+    EXPECT_DEATH(
+        {
+            const size_t leido = copia_del_handle->num_elems;
+            std::printf("%zu\n", leido);
+        },
+        "use-after-poison");
+#else
     EXPECT_EQ(copia_del_handle->mascara_debug, 0);
+#endif
+    EXPECT_EQ(arr_NumElemsDouble(copia_del_handle), 0u);
+    EXPECT_EQ(informes(), Textos{"array->mascara_debug == MASCARA_DEBUG"});
+    ARRAY *otra = arr_CreaDouble(1); // takes the slot back: readable and live again
+    EXPECT_TRUE(zarpspy_cabecera_legible(otra));
+    arr_DestruyeDouble(&otra);
 }
 
 } // namespace

@@ -11,14 +11,16 @@ namespace {
 
 constexpr const char *UBICACION = "a_bit (ARRAYS.DLL)";
 
-// The direct checks of get, set and append, which never use checking mode; false when the handle
-// cannot be used as a bit array.
-bool es_array_de_bits(const ARRAY *array)
+// The direct checks of get, set and append, which never use checking mode: a live array, then
+// one of bits. False when the handle cannot be used so.
+bool es_array_vivo(const ARRAY *array)
 {
     return ARR_EXIGE(array != nullptr, "(array) != NULL") &&
-           ARR_EXIGE(arrayprv_marca_valida(array),
-                     "array->mascara_debug == MASCARA_DEBUG") &&
-           ARR_EXIGE(array->tipo_elem == elem_BIT_NO_USAR, "array->tipo_elem == elem_BIT_NO_USAR");
+           ARR_EXIGE(arrayprv_marca_valida(array), "array->mascara_debug == MASCARA_DEBUG");
+}
+bool es_de_bits(const ARRAY *array)
+{
+    return ARR_EXIGE(array->tipo_elem == elem_BIT_NO_USAR, "array->tipo_elem == elem_BIT_NO_USAR");
 }
 
 BYTE mascara_de(ULONG pos) { return static_cast<BYTE>(1u << (pos & 7)); }
@@ -28,11 +30,9 @@ BYTE mascara_de(ULONG pos) { return static_cast<BYTE>(1u << (pos & 7)); }
 // then, holding no bits, by the position, and gives no byte.
 BYTE *byte_de(const ARRAY *array, ULONG pos)
 {
-    if (!ARR_EXIGE(array != nullptr, "(array) != NULL") ||
-        !ARR_EXIGE(arrayprv_marca_valida(array), "array->mascara_debug == MASCARA_DEBUG"))
+    if (!es_array_vivo(array))
         return nullptr;
-    const bool de_bits =
-        ARR_EXIGE(array->tipo_elem == elem_BIT_NO_USAR, "array->tipo_elem == elem_BIT_NO_USAR");
+    const bool de_bits = es_de_bits(array);
     const ULONG num_bits = de_bits ? array->num_bits : 0;
     if (!ARR_EXIGE(pos < num_bits, "pos < array->num_bits") && !de_bits)
         return nullptr;
@@ -71,7 +71,7 @@ extern "C" void arr_SetBIT(ARRAY *array, ULONG pos, BOOL valor) noexcept
 // last of the last row, and is written both ways because a fill may have set it.
 extern "C" void arr_AppendBIT(ARRAY *array, BOOL valor) noexcept
 {
-    if (!es_array_de_bits(array))
+    if (!es_array_vivo(array) || !es_de_bits(array))
         return;
     ARR_EXIGE(array->en_bucle == FALSO, "array->en_bucle == FALSO");
     const ULONG k = array->num_bits & 7;

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdio>
 #include <cstdlib>
 #include <mutex>
 #include <vector>
@@ -91,7 +90,7 @@ struct PoolCabeceras {
                     return slot;
                 }
             }
-            // A new chunk, asked for without the lock: the out-of-memory handler may destroy arrays.
+            // A new chunk, asked for without the lock: the out-of-memory handler may free arrays.
             void *trozo = sin_memoria_hasta_obtener(SLOTS_POR_TROZO * tamanyo, [&] {
                 return std::calloc(SLOTS_POR_TROZO, tamanyo);
             });
@@ -120,18 +119,18 @@ PoolCabeceras &pool()
 
 void *zarpspy_nousar_malloc(size_t tamanyo)
 {
-    void *base = sin_memoria_hasta_obtener(tamanyo, [&] { return std::malloc(PREFIJO + tamanyo); });
+    void *base =
+        sin_memoria_hasta_obtener(tamanyo, [&] { return std::malloc(PREFIJO + tamanyo); });
     return estrena(base, tamanyo, Origen::monton);
 }
 
 void *zarpspy_nousar_calloc(size_t num, size_t tamanyo)
 {
     const size_t total = num * tamanyo;
-    if (tamanyo != 0 && total / tamanyo != num) {
-        std::fprintf(stderr, "arrays: out of memory: no block of %zu blocks of %zu bytes\n", num, tamanyo);
-        std::abort();
-    }
-    void *base = sin_memoria_hasta_obtener(total, [&] { return std::calloc(1, PREFIJO + total); });
+    if (tamanyo != 0 && total / tamanyo != num) // no size_t holds the size asked for
+        sin_memoria_termina(SIZE_MAX);
+    void *base =
+        sin_memoria_hasta_obtener(total, [&] { return std::calloc(1, PREFIJO + total); });
     return estrena(base, total, Origen::monton);
 }
 
@@ -139,7 +138,8 @@ void *zarpspy_reserva_en_losa(size_t tamanyo)
 {
     if (tamanyo == 0 || tamanyo > ZARPSPY_MAX_BLOQUE_LOSA)
         return zarpspy_nousar_malloc(tamanyo);
-    void *base = sin_memoria_hasta_obtener(tamanyo, [&] { return losas_reserva(PREFIJO + tamanyo); });
+    void *base =
+        sin_memoria_hasta_obtener(tamanyo, [&] { return losas_reserva(PREFIJO + tamanyo); });
     return estrena(base, tamanyo, Origen::losa);
 }
 
@@ -155,7 +155,8 @@ void *zarpspy_nousar_realloc(void *bloque, size_t tamanyo)
         zarpspy_nousar_free_pp(&bloque, 1);
         return nuevo;
     }
-    void *nueva = sin_memoria_hasta_obtener(tamanyo, [&] { return std::realloc(base, PREFIJO + tamanyo); });
+    void *nueva = sin_memoria_hasta_obtener(tamanyo,
+                                            [&] { return std::realloc(base, PREFIJO + tamanyo); });
     tamanyo_de(nueva) = tamanyo;
     bytes_vivos.fetch_add(tamanyo - anterior, std::memory_order_relaxed); // wraps when shrinking
     return usuario(nueva);

@@ -42,11 +42,19 @@ void sin_memoria_reintenta(size_t tamanyo)
     const Manejador actual = manejador();
     if (actual.funcion != nullptr && actual.funcion(tamanyo, actual.contexto) != FALSO)
         return;
+    sin_memoria_termina(tamanyo);
+}
+
+void sin_memoria_termina(size_t tamanyo)
+{
     std::fprintf(stderr, "arrays: out of memory: no block of %zu bytes\n", tamanyo);
     std::abort();
 }
 
-void sin_memoria_falla_peticion(size_t n) { peticiones_hasta_fallo.store(n, std::memory_order_relaxed); }
+void sin_memoria_falla_peticion(size_t n)
+{
+    peticiones_hasta_fallo.store(n, std::memory_order_relaxed);
+}
 
 extern "C" ARRAYS_API arr_manejador_sin_memoria
 arr_set_manejador_sin_memoria(arr_manejador_sin_memoria f, void *contexto) noexcept

@@ -10,8 +10,12 @@
 bool sin_memoria_simula_fallo();
 
 // After a failed request of `tamanyo` bytes: returns when the handler asks for a retry, otherwise
-// ends the process.
+// ends the process through sin_memoria_termina.
 void sin_memoria_reintenta(size_t tamanyo);
+
+// The end of the process for a request of `tamanyo` bytes that cannot be met: the one line that
+// names the size, on standard error, then abort.
+[[noreturn]] void sin_memoria_termina(size_t tamanyo);
 
 // The block that `pide` gives, asked for again after each failure that the handler answers.
 template <typename Pide> void *sin_memoria_hasta_obtener(size_t tamanyo, Pide &&pide)

@@ -3,6 +3,8 @@
 // result over memory the array still owns, and nothing leaks.
 #include "soporte/prueba_arrays.h"
 
+#include "orden/ayudas_orden.h"
+
 #include <algorithm>
 #include <numeric>
 #include <string>
@@ -60,29 +62,22 @@ void libera_y_destruye(void **elemento)
     arr_DestruyeEstructurasConTipo(&en_uso, nullptr);
 }
 
-// 199, 198, ..., 0 as Long.
-ARRAY *decrecientes(LONG n)
-{
-    ARRAY *array = arr_CreaLong(0);
-    for (LONG v = n - 1; v >= 0; --v)
-        arr_AppendLong(array, v);
-    return array;
-}
-
-std::vector<LONG> valores(ARRAY *array)
-{
-    std::vector<LONG> v;
-    for (ULONG i = 0; i < arr_NumElemsLong(array); ++i)
-        v.push_back(arr_GetLong(array, i));
-    return v;
-}
-
+// 0, 1, ..., n - 1 as Long, and an array of them in decreasing order.
 std::vector<LONG> cero_a(LONG n)
 {
     std::vector<LONG> v(static_cast<size_t>(n));
     std::iota(v.begin(), v.end(), 0);
     return v;
 }
+
+ARRAY *decrecientes(LONG n)
+{
+    std::vector<LONG> v = cero_a(n);
+    std::reverse(v.begin(), v.end());
+    return crea_con(elem_LONG_NO_USAR, v);
+}
+
+std::vector<LONG> valores(const ARRAY *array) { return elementos<LONG>(array, elem_LONG_NO_USAR); }
 
 TEST_F(LlamadaQueCambiaSuArray, AnAppendFromASortComparatorIsRefusedAndTheSortEndsRight)
 {

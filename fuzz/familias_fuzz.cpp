@@ -17,6 +17,7 @@
 #include <cstdlib>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace
@@ -91,7 +92,6 @@ struct ULong {
     }
     static ARRAY *copia(ARRAY *a) { return arr_CopiaULong(a); }
     static void concatena(ARRAY *d, ARRAY *o) { arr_ConcatenaULong(d, o); }
-    static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
         arr_nousar_RecorreULong(
@@ -143,7 +143,6 @@ template <> struct Cadena<char> {
     static ULONG busca(ARRAY *a, const T &v) { return arr_BuscarCADENA(a, v.c_str()); }
     static ARRAY *copia(ARRAY *a) { return arr_CopiaCADENA(a); }
     static void concatena(ARRAY *d, ARRAY *o) { arr_ConcatenaCADENA(d, o); }
-    static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
         nousar_RecorreCADENA(
@@ -193,7 +192,6 @@ template <> struct Cadena<WCHAR> {
     static ULONG busca(ARRAY *a, const T &v) { return arr_BuscarCADENA_u(a, v.c_str()); }
     static ARRAY *copia(ARRAY *a) { return arr_CopiaCADENA_u(a); }
     static void concatena(ARRAY *d, ARRAY *o) { arr_ConcatenaCADENA_u(d, o); }
-    static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
         nousar_RecorreCADENA_u(
@@ -274,7 +272,6 @@ struct Estructura {
     {
         arr_ConcatenaEstructurasConTipo(d, o, copia_de, "fuzz", __LINE__);
     }
-    static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
         arr_RecorrePunteroConTipo(a, [](void *) {
@@ -341,7 +338,6 @@ struct Punto2D {
     }
     static ARRAY *copia(ARRAY *a) { return arr_CopiaPunto2D(a); }
     static void concatena(ARRAY *d, ARRAY *o) { arr_ConcatenaPunto2D(d, o); }
-    static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
         arr_nousar_RecorrePunto2D(
@@ -416,7 +412,6 @@ struct Punto3D {
     }
     static ARRAY *copia(ARRAY *a) { return arr_CopiaPunto3D(a); }
     static void concatena(ARRAY *d, ARRAY *o) { arr_ConcatenaPunto3D(d, o); }
-    static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
         arr_nousar_RecorrePunto3D(
@@ -535,7 +530,6 @@ struct Punto2DXPriv {
     {
         arr_ConcatenaPunto2DXPriv_nousar(d, o, copia_de, "fuzz", __LINE__);
     }
-    static void libera_copia(ARRAY **a) { destruye(a); }
     static void recorre_hostil(ARRAY *a)
     {
         arr_RecorrePunto2DXPriv(
@@ -693,12 +687,11 @@ private:
         std::vector<T> ahora;
         for (ULONG i = 0; i < num(); ++i)
             ahora.push_back(F::get(array_, i));
-        std::vector<T> antes = modelo_;
-        std::sort(ahora.begin(), ahora.end());
-        std::sort(antes.begin(), antes.end());
-        exige(ahora == antes, "elements after a broken comparator");
-        for (ULONG i = 0; i < num(); ++i)
-            modelo_[i] = F::get(array_, i);
+        std::vector<T> mismos = ahora;
+        std::sort(mismos.begin(), mismos.end());
+        std::sort(modelo_.begin(), modelo_.end());
+        exige(mismos == modelo_, "elements after a broken comparator");
+        modelo_ = std::move(ahora);
     }
 
     void busca()
@@ -721,7 +714,7 @@ private:
             const std::vector<T> doble = modelo_;
             modelo_.insert(modelo_.end(), doble.begin(), doble.end());
         }
-        F::libera_copia(&copia);
+        F::destruye(&copia);
     }
 
     // Callbacks that try to append to, delete from and destroy the array they walk: every try is

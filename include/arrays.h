@@ -14,7 +14,11 @@
  *   plain 2D point array destroyed through arr_DestruyePunto2DXPriv). Where it is not (strings,
  *   pointers, private data, writes of bytes into bits, other sizes) the call ends as above. The
  *   bit functions on another type report the tag and the bit position, and change nothing.
- * - Destroyers take the address of the handle and leave it NULL.
+ * - Destroyers take the address of the handle and leave it NULL. A copy of a destroyed handle is
+ *   reported as not live until another array takes its place, which happens only after every
+ *   other free header has been used. With ARRAYPRUEBA in the environment (checking mode) every
+ *   handle is looked up among the live headers before it is read, so that even a wild or forged
+ *   handle is reported without a crash; the whole array is then checked before each call.
  */
 #ifndef ARRAYS_H
 #define ARRAYS_H

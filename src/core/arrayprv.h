@@ -238,6 +238,11 @@ inline BOOL arrayprv_es_modo_comprobacion()
     return arrayprv_decide_modo_comprobacion();
 }
 
+// The validity mark's check when checking mode is on or not decided yet: it decides the mode
+// and, when it is on, reads nothing at `array` unless the pool holds a live header there, so that
+// a destroyed, wild or forged handle is reported without a crash.
+bool arrayprv_cabecera_viva(const ARRAY *array);
+
 // The full consistency check; modo 1 refuses a running traversal (strict), 0 is lenient.
 void arrayprv_comprueba_array(const ARRAY *array, BOOL modo);
 
@@ -444,9 +449,12 @@ template <size_t TAMANYO> inline size_t arrayprv_tamanyo_rapido(const ARRAY *arr
 }
 
 // The validity mark of a live header, read only where the header may be read (a destroyed one
-// is poisoned in AddressSanitizer builds). Every check of a handle's mark goes through this.
+// is poisoned in AddressSanitizer builds). In checking mode the handle must first be a live
+// header of the pool (arrayprv_cabecera_viva). Every check of a handle's mark goes through this.
 inline bool arrayprv_marca_valida(const ARRAY *array)
 {
+    if (arrayprv_estado_modo.load(std::memory_order_relaxed) != MODO_APAGADO) [[unlikely]]
+        return arrayprv_cabecera_viva(array);
     return zarpspy_cabecera_legible(array) && array->mascara_debug == MASCARA_DEBUG;
 }
 

@@ -71,6 +71,13 @@ BOOL arrayprv_decide_modo_comprobacion()
     return estado == MODO_ENCENDIDO;
 }
 
+bool arrayprv_cabecera_viva(const ARRAY *array)
+{
+    const bool legible = arrayprv_es_modo_comprobacion() ? zarpspy_cabecera_viva(array)
+                                                         : zarpspy_cabecera_legible(array);
+    return legible && array->mascara_debug == MASCARA_DEBUG;
+}
+
 void arrayprv_comprueba_array(const ARRAY *array, BOOL modo)
 {
     if (!ARR_EXIGE(array, "array") ||

@@ -1,6 +1,6 @@
 // Tracked heap memory: each block carries a small prefix with its size and where it came from (the
 // C heap or a slab), so that live bytes can be counted and the block returned without a table;
-// header slots come from a pool that never returns memory.
+// header slots come from a pool that never returns memory and knows which of its slots are live.
 #include "services/memoria.h"
 
 #include "services/losas.h"
@@ -10,7 +10,10 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdint>
 #include <cstdlib>
+#include <deque>
+#include <memory>
 #include <mutex>
 #include <vector>
 
@@ -65,14 +68,39 @@ void devuelve(void *base)
         std::free(base);
 }
 
-// Header slots: carved from chunks that are never freed; free slots wait in a list kept apart
-// from the slots, so a returned slot keeps the bytes its last owner left in it.
+// Header slots: carved from chunks that are never freed. Each slot has a generation, counted up
+// when the pool hands the slot out and again when it comes back, so it is odd exactly while the
+// slot holds a live header; the records sit apart from the slots, so a returned slot keeps the
+// bytes its last owner left in it. Free slots wait in a queue, a returned one at the back: a
+// destroyed header is handed out again only after every other free slot, which keeps a stale
+// handle dead to the checks for as long as the pool can.
+struct Trozo {
+    uintptr_t inicio;
+    std::unique_ptr<uint32_t[]> generaciones;
+};
+
 struct PoolCabeceras {
     std::mutex cerrojo;
     size_t tamanyo_slot = 0;
-    std::vector<void *> libres;
-    std::vector<void *> trozos;
+    std::deque<void *> libres;
+    std::vector<Trozo> trozos; // by address
     static constexpr size_t SLOTS_POR_TROZO = 256;
+
+    // The generation of the slot at `direccion`, or NULL when no slot of the pool starts there.
+    // Reads the records only; the caller holds the lock.
+    uint32_t *generacion(const void *direccion)
+    {
+        const auto posicion = reinterpret_cast<uintptr_t>(direccion);
+        auto trozo = std::upper_bound(trozos.begin(), trozos.end(), posicion,
+                                      [](uintptr_t p, const Trozo &t) { return p < t.inicio; });
+        if (trozo == trozos.begin())
+            return nullptr;
+        --trozo;
+        const uintptr_t desplazamiento = posicion - trozo->inicio;
+        if (desplazamiento >= SLOTS_POR_TROZO * tamanyo_slot || desplazamiento % tamanyo_slot != 0)
+            return nullptr;
+        return &trozo->generaciones[desplazamiento / tamanyo_slot];
+    }
 
     void *reserva(size_t tamanyo)
     {
@@ -84,8 +112,9 @@ struct PoolCabeceras {
                 if (tamanyo != tamanyo_slot)
                     std::abort();
                 if (!libres.empty()) {
-                    void *slot = libres.back();
-                    libres.pop_back();
+                    void *slot = libres.front();
+                    libres.pop_front();
+                    ++*generacion(slot);
                     ASAN_UNPOISON_MEMORY_REGION(slot, tamanyo_slot);
                     return slot;
                 }
@@ -95,8 +124,12 @@ struct PoolCabeceras {
                 return std::calloc(SLOTS_POR_TROZO, tamanyo);
             });
             const std::lock_guard<std::mutex> guarda(cerrojo);
-            trozos.push_back(trozo);
-            for (size_t i = SLOTS_POR_TROZO; i-- > 0;)
+            Trozo nuevo{reinterpret_cast<uintptr_t>(trozo),
+                        std::make_unique<uint32_t[]>(SLOTS_POR_TROZO)};
+            trozos.insert(std::upper_bound(trozos.begin(), trozos.end(), nuevo.inicio,
+                                           [](uintptr_t p, const Trozo &t) { return p < t.inicio; }),
+                          std::move(nuevo));
+            for (size_t i = 0; i < SLOTS_POR_TROZO; ++i)
                 libres.push_back(static_cast<char *>(trozo) + i * tamanyo_slot);
         }
     }
@@ -104,8 +137,19 @@ struct PoolCabeceras {
     void libera(void *slot)
     {
         std::lock_guard<std::mutex> guarda(cerrojo);
+        uint32_t *vez = generacion(slot);
+        if (vez == nullptr || *vez % 2 == 0) // not a header the pool handed out
+            std::abort();
+        ++*vez;
         ASAN_POISON_MEMORY_REGION(slot, tamanyo_slot);
         libres.push_back(slot);
+    }
+
+    bool viva(const void *direccion)
+    {
+        std::lock_guard<std::mutex> guarda(cerrojo);
+        const uint32_t *vez = generacion(direccion);
+        return vez != nullptr && *vez % 2 == 1;
     }
 };
 
@@ -194,6 +238,8 @@ void zarpspy_libera_cabecera(void *puntero)
     pool().libera(cabecera);
     zarpspy_escribe_puntero(puntero, nullptr);
 }
+
+bool zarpspy_cabecera_viva(const void *direccion) { return pool().viva(direccion); }
 
 size_t zarpspy_bloques_vivos() { return bloques_vivos.load(std::memory_order_relaxed); }
 size_t zarpspy_bytes_vivos() { return bytes_vivos.load(std::memory_order_relaxed); }

@@ -28,6 +28,10 @@ void zarpspy_nousar_free_pp(void *puntero, size_t tamanyo_item);
 // anywhere but through zarpspy_cabecera_legible is an error ASan reports.
 void *zarpspy_reserva_cabecera(size_t tamanyo);
 void zarpspy_libera_cabecera(void *puntero);
+// Whether `direccion` is the start of a pool slot that holds a header now (handed out and not
+// returned). Answered from the pool's own records without reading `direccion`, so that any
+// pointer at all, wild or forged, may be asked about; it takes the pool's lock.
+bool zarpspy_cabecera_viva(const void *direccion);
 
 // Whether the header slot at `cabecera` may be read: always, except a returned slot in an
 // AddressSanitizer build. Every check of a handle asks this before it reads the validity mark.

@@ -1,11 +1,16 @@
 // Checking mode, in a process started with ARRAYPRUEBA set: the full consistency check replaces
-// the cheap entry checks, so a corrupted header is reported and a read traversal is not seen.
+// the cheap entry checks, so a corrupted header is reported and a read traversal is not seen, and
+// every handle must be a live header of the pool before anything is read through it.
 #include "soporte/prueba_arrays.h"
 
 #include "core/arrayprv.h"
 #include "modo_comprobacion/escenarios.h"
 
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <cstdlib>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -84,6 +89,82 @@ BOOL anota(double *elemento, void *datos)
 {
     static_cast<std::vector<double> *>(datos)->push_back(*elemento);
     return CIERTO;
+}
+
+// What a call on a handle that is not a live header reports: the full check's two first texts
+// stop at the validity mark, which is not read.
+const Textos INFORMES_SIN_CABECERA = {"array->mascara_debug == MASCARA_DEBUG"};
+
+// Every kind of call on a handle that is not a live header: a read, a write, an append, a count
+// and a traversal. Each is reported and yields its neutral result; none reads through the handle.
+void usa_todo(ARRAY *handle)
+{
+    EXPECT_EQ(arr_GetDouble(handle, 0), 0.0);
+    arr_SetDouble(handle, 0, 1);
+    arr_AppendDouble(handle, 2);
+    EXPECT_EQ(arr_NumElemsDouble(handle), 0u);
+    arr_nousar_RecorreDouble(handle, anota, nullptr, "prueba (MODO)", __LINE__);
+}
+
+// A page that may not be read at all: an address any read of which ends the process.
+class PaginaProhibida {
+public:
+    PaginaProhibida()
+        : tamanyo_(static_cast<size_t>(sysconf(_SC_PAGESIZE))),
+          pagina_(mmap(nullptr, tamanyo_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0))
+    {
+    }
+    ~PaginaProhibida() { munmap(pagina_, tamanyo_); }
+    PaginaProhibida(const PaginaProhibida &) = delete;
+    PaginaProhibida &operator=(const PaginaProhibida &) = delete;
+    ARRAY *como_handle() const { return static_cast<ARRAY *>(pagina_); }
+
+private:
+    size_t tamanyo_;
+    void *pagina_;
+};
+
+TEST_F(ConModoComprobacion, WildHandleIsReportedWithoutBeingRead)
+{
+    const PaginaProhibida pagina;
+    ASSERT_NE(static_cast<void *>(pagina.como_handle()), MAP_FAILED);
+    usa_todo(pagina.como_handle());
+    EXPECT_EQ(informes(), Textos(5, INFORMES_SIN_CABECERA[0]));
+}
+
+// A copy of a live header, mark included, is still not a header of the pool: it is refused, and
+// the array it copies is untouched.
+TEST_F(ConModoComprobacion, ForgedCopyOfALiveHeaderIsRefused)
+{
+    ARRAY *array = arr_CreaDouble(1);
+    arr_SetDouble(array, 0, 5);
+    alignas(16) unsigned char falsa[sizeof(CabeceraArray)];
+    std::memcpy(falsa, array, sizeof falsa);
+    usa_todo(reinterpret_cast<ARRAY *>(falsa));
+    EXPECT_EQ(informes(), Textos(5, INFORMES_SIN_CABECERA[0]));
+    EXPECT_EQ(arr_NumElemsDouble(array), 1u);
+    EXPECT_EQ(arr_GetDouble(array, 0), 5.0);
+    arr_DestruyeDouble(&array);
+}
+
+TEST_F(ConModoComprobacion, PointerIntoAHeaderIsNotAHandle)
+{
+    ARRAY *array = arr_CreaDouble(1);
+    usa_todo(reinterpret_cast<ARRAY *>(reinterpret_cast<char *>(array) + 8));
+    EXPECT_EQ(informes(), Textos(5, INFORMES_SIN_CABECERA[0]));
+    EXPECT_EQ(arr_NumElemsDouble(array), 1u);
+    arr_DestruyeDouble(&array);
+}
+
+// A destroyed header keeps its last bytes; the pool's records, not the mark, make it dead.
+TEST_F(ConModoComprobacion, DestroyedHandleIsDeadToThePoolBeforeItsMarkIsRead)
+{
+    ARRAY *array = arr_CreaDouble(1);
+    ARRAY *copia_del_handle = array;
+    arr_DestruyeDouble(&array);
+    EXPECT_FALSE(zarpspy_cabecera_viva(copia_del_handle));
+    usa_todo(copia_del_handle);
+    EXPECT_EQ(informes(), Textos(5, INFORMES_SIN_CABECERA[0]));
 }
 
 TEST_F(ConModoComprobacion, TraversalRunsTheFullCheckFirst)

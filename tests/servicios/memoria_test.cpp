@@ -1,6 +1,6 @@
 // Tracked memory: every block is counted while it lives, reallocation keeps the contents, the
 // free-and-clear operation leaves the pointer NULL, blocks from slabs behave as heap blocks, and
-// array headers come from a pool that keeps a destroyed header readable.
+// array headers come from a pool that keeps a destroyed header readable and knows its live slots.
 #include "soporte/prueba_arrays.h"
 
 #include "core/arrayprv.h"
@@ -159,6 +159,47 @@ TEST_F(Memoria, HeaderSlotIsCountedUntilReturnedToThePool)
     EXPECT_EQ(cabecera, nullptr);
     EXPECT_EQ(balance.bloques(), 0u);
     EXPECT_EQ(balance.bytes(), 0u);
+}
+
+// The pool knows its live slots from its own records: a handed-out slot until it comes back, and
+// nothing else, not a pointer into a slot nor one from elsewhere.
+TEST_F(Memoria, PoolKnowsWhichOfItsSlotsHoldAHeader)
+{
+    void *cabecera = zarpspy_reserva_cabecera(sizeof(CabeceraArray));
+    const void *copia = cabecera;
+    int local = 0;
+    EXPECT_TRUE(zarpspy_cabecera_viva(cabecera));
+    EXPECT_FALSE(zarpspy_cabecera_viva(static_cast<char *>(cabecera) + 1));
+    EXPECT_FALSE(zarpspy_cabecera_viva(&local));
+    EXPECT_FALSE(zarpspy_cabecera_viva(nullptr));
+    zarpspy_libera_cabecera(&cabecera);
+    EXPECT_FALSE(zarpspy_cabecera_viva(copia));
+}
+
+// A returned slot waits behind every other free slot, so that a stale handle stays dead for as
+// long as the pool can keep it so.
+TEST_F(Memoria, ReturnedHeaderSlotIsHandedOutAgainOnlyAfterTheOtherFreeSlots)
+{
+    void *primera = zarpspy_reserva_cabecera(sizeof(CabeceraArray));
+    const void *devuelta = primera;
+    zarpspy_libera_cabecera(&primera);
+    void *segunda = zarpspy_reserva_cabecera(sizeof(CabeceraArray));
+    EXPECT_NE(segunda, devuelta);
+    EXPECT_FALSE(zarpspy_cabecera_viva(devuelta));
+    zarpspy_libera_cabecera(&segunda);
+}
+
+// A slot's generation says whether it is out: returning a header that is not out is a fault of
+// the library itself, which ends the process rather than hand one slot to two arrays.
+TEST_F(Memoria, ReturningAHeaderThatIsNotOutEndsTheProcess)
+{
+    void *cabecera = zarpspy_reserva_cabecera(sizeof(CabeceraArray));
+    void *copia = cabecera;
+    zarpspy_libera_cabecera(&cabecera);
+    EXPECT_DEATH(zarpspy_libera_cabecera(&copia), "");
+    int local = 0;
+    void *ajeno = &local;
+    EXPECT_DEATH(zarpspy_libera_cabecera(&ajeno), "");
 }
 
 // A destroyed header is never a live one to the checks; it stays mapped with its mark cleared,

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <random>
 
@@ -178,6 +179,39 @@ TEST_F(OrdenClaves, NegativeAndPositiveValuesOfEveryWidthOrderBySign)
     d[10] = std::numeric_limits<double>::denorm_min();
     compara_con_la_tabla<elem_DOUBLE_NO_USAR>(d, arrayprv_orden_double,
                                               [](ARRAY *a) { arr_QSortDouble(a, nullptr); }, 500);
+}
+
+// Keys of the full width, keys that share some high bytes and differ in the others, and keys with
+// many duplicates, in buckets of every size, in even and uneven rows.
+TEST_F(OrdenClaves, WideAndClusteredKeysEndAsTheDocumentedQuicksortLeavesThem)
+{
+    std::mt19937_64 azar(5);
+    const size_t n = 60000;
+    const std::vector<std::function<ULONG64()>> reparticiones = {
+        [&] { return azar(); },
+        [&] { return azar() >> (azar() % 64); },
+        [&] { return azar() & 0x0000FFFFFFFFFFFF; },
+        [&] { return (azar() % 1000) << 30; },
+    };
+    for (const auto &reparto : reparticiones) {
+        std::vector<ULONG64> u(n);
+        std::generate(u.begin(), u.end(), reparto);
+        compara_con_la_tabla<elem_ULONG64_NO_USAR>(
+            u, arrayprv_orden_ulong64, [](ARRAY *a) { arr_QSortULong64(a, nullptr); }, n / 4);
+        std::vector<LONG64> l(u.begin(), u.end());
+        compara_con_la_tabla<elem_LONG64_NO_USAR>(
+            l, arrayprv_orden_long64, [](ARRAY *a) { arr_QSortLong64(a, nullptr); });
+        std::vector<double> d(n);
+        std::transform(u.begin(), u.end(), d.begin(),
+                       [](ULONG64 x) { return static_cast<double>(static_cast<LONG64>(x)) / 4096; });
+        compara_con_la_tabla<elem_DOUBLE_NO_USAR>(
+            d, arrayprv_orden_double, [](ARRAY *a) { arr_QSortDouble(a, nullptr); }, n / 4);
+        std::vector<LONG> w(n);
+        std::transform(u.begin(), u.end(), w.begin(),
+                       [](ULONG64 x) { return static_cast<LONG>(x ^ (x >> 32)); });
+        compara_con_la_tabla<elem_LONG_NO_USAR>(
+            w, arrayprv_orden_long, [](ARRAY *a) { arr_QSortLong(a, nullptr); }, n / 4);
+    }
 }
 
 TEST_F(OrdenClaves, DoublesWithANaNOrBothZerosTakeTheDocumentedQuicksort)

@@ -5,8 +5,8 @@
 // poisoned for AddressSanitizer, so a block read after it is freed is reported as with malloc.
 #include "services/losas.h"
 
-#include <sanitizer/asan_interface.h>
-#include <sys/mman.h>
+#include "services/envenenado.h"
+#include "services/plataforma.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -62,27 +62,6 @@ Losas &losas()
     return *unicas;
 }
 
-// A chunk-sized mapping aligned to its size (twice the size is mapped and the ends are cut off);
-// NULL when the system has no memory for it.
-void *mapea_trozo()
-{
-    const size_t doble = 2 * LOSAS_BYTES_TROZO;
-    void *zona = mmap(nullptr, doble, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (zona == MAP_FAILED)
-        return nullptr;
-    const auto inicio = reinterpret_cast<uintptr_t>(zona);
-    const uintptr_t alineado = (inicio + LOSAS_BYTES_TROZO - 1) & ~(LOSAS_BYTES_TROZO - 1);
-    if (alineado > inicio)
-        munmap(zona, alineado - inicio);
-    if (const uintptr_t sobra = inicio + doble - (alineado + LOSAS_BYTES_TROZO); sobra > 0)
-        munmap(reinterpret_cast<void *>(alineado + LOSAS_BYTES_TROZO), sobra);
-    void *trozo = reinterpret_cast<void *>(alineado);
-#ifdef MADV_HUGEPAGE
-    madvise(trozo, LOSAS_BYTES_TROZO, MADV_HUGEPAGE); // advice: without huge pages it still works
-#endif
-    return trozo;
-}
-
 Trozo *trozo_de(void *slot)
 {
     return reinterpret_cast<Trozo *>(reinterpret_cast<uintptr_t>(slot) & ~(LOSAS_BYTES_TROZO - 1));
@@ -110,7 +89,7 @@ void desenlaza(Clase &clase, Trozo *trozo)
 // A new chunk for the class, in its list; NULL when the system has no memory for it.
 Trozo *nuevo_trozo(Losas &l, Clase &clase)
 {
-    auto *trozo = static_cast<Trozo *>(mapea_trozo());
+    auto *trozo = static_cast<Trozo *>(plataforma_reserva_alineada(LOSAS_BYTES_TROZO));
     if (trozo == nullptr)
         return nullptr;
     char *base = reinterpret_cast<char *>(trozo);
@@ -183,7 +162,7 @@ void losas_libera(void *slot)
     }
     desenlaza(clase, trozo);
     ASAN_UNPOISON_MEMORY_REGION(trozo, LOSAS_BYTES_TROZO); // the next mapping there starts clean
-    munmap(trozo, LOSAS_BYTES_TROZO);
+    plataforma_libera_alineada(trozo, LOSAS_BYTES_TROZO);
     l.bytes_mapeados -= LOSAS_BYTES_TROZO;
 }
 

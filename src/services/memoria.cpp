@@ -3,10 +3,9 @@
 // header slots come from a pool that never returns memory and knows which of its slots are live.
 #include "services/memoria.h"
 
+#include "services/envenenado.h"
 #include "services/losas.h"
 #include "services/sin_memoria.h"
-
-#include <sanitizer/asan_interface.h>
 
 #include <algorithm>
 #include <atomic>

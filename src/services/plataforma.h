@@ -1,7 +1,7 @@
 // What the library needs from the operating system beyond the C and C++ runtimes, behind one
 // interface with one implementation per platform (services/posix/, services/windows/): copying
-// memory that may be unreadable without faulting, named blocks of shared memory for an outside
-// tool, and the default sinks of the debugger output.
+// memory that may be unreadable without faulting, large and aligned blocks, named blocks of
+// shared memory for an outside tool, and the default sinks of the debugger output.
 #pragma once
 
 #include "arrays.h"
@@ -19,6 +19,12 @@ bool plataforma_copia_legible(const void *origen, void *destino, size_t bytes);
 // with plataforma_libera_grande and the same size.
 void *plataforma_reserva_grande(size_t bytes);
 void plataforma_libera_grande(void *bloque, size_t bytes);
+
+// A block of `bytes` bytes (a power of two) aligned to its own size, zeroed, asked of the system
+// directly and advised to use huge pages, for the row slabs; NULL when the system has no memory
+// for it. Returned whole with plataforma_libera_alineada.
+void *plataforma_reserva_alineada(size_t bytes);
+void plataforma_libera_alineada(void *bloque, size_t bytes);
 
 // A named block of shared memory mapped into this process.
 struct BloqueCompartido {
@@ -48,4 +54,4 @@ void plataforma_quita_nombre(const char *nombre);
 // The default sinks of the debugger output (debugarr_set_salida): the narrow text holds the
 // documented bytes (Windows-1252, or a string element's own bytes), the wide one UTF-16.
 void plataforma_salida_depuracion(const char *texto);
-void plataforma_salida_depuracion_ancha(const WCHAR *texto);
+void plataforma_salida_depuracion_ancha(const arr_wchar_t *texto);

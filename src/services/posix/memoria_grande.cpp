@@ -1,7 +1,9 @@
-// Large scratch blocks on POSIX: anonymous mappings advised to use transparent huge pages.
+// Large and aligned blocks on POSIX: anonymous mappings advised to use transparent huge pages.
 #include "services/plataforma.h"
 
 #include <sys/mman.h>
+
+#include <cstdint>
 
 void *plataforma_reserva_grande(size_t bytes)
 {
@@ -13,3 +15,23 @@ void *plataforma_reserva_grande(size_t bytes)
 }
 
 void plataforma_libera_grande(void *bloque, size_t bytes) { munmap(bloque, bytes); }
+
+// Twice the size is mapped and the ends around the aligned block are cut off.
+void *plataforma_reserva_alineada(size_t bytes)
+{
+    const size_t doble = 2 * bytes;
+    void *zona = mmap(nullptr, doble, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (zona == MAP_FAILED)
+        return nullptr;
+    const auto inicio = reinterpret_cast<uintptr_t>(zona);
+    const uintptr_t alineado = (inicio + bytes - 1) & ~(bytes - 1);
+    if (alineado > inicio)
+        munmap(zona, alineado - inicio);
+    if (const uintptr_t sobra = inicio + doble - (alineado + bytes); sobra > 0)
+        munmap(reinterpret_cast<void *>(alineado + bytes), sobra);
+    void *bloque = reinterpret_cast<void *>(alineado);
+    madvise(bloque, bytes, MADV_HUGEPAGE); // advice: without huge pages it still works
+    return bloque;
+}
+
+void plataforma_libera_alineada(void *bloque, size_t bytes) { munmap(bloque, bytes); }

@@ -15,7 +15,7 @@ void plataforma_salida_depuracion(const char *texto)
         std::fputs(cp1252_a_utf8(texto).c_str(), stderr);
 }
 
-void plataforma_salida_depuracion_ancha(const WCHAR *texto)
+void plataforma_salida_depuracion_ancha(const arr_wchar_t *texto)
 {
     std::fputs(utf16_a_utf8(texto).c_str(), stderr);
 }

@@ -3,9 +3,9 @@
 #include "core/arrayprv.h"
 
 #include "services/informes.h"
+#include "services/plataforma.h"
 
 #include <atomic>
-#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -66,7 +66,7 @@ std::atomic<int> arrayprv_estado_modo{MODO_SIN_DECIDIR};
 BOOL arrayprv_decide_modo_comprobacion()
 {
     // Threads that arrive together all read the environment and store the same answer.
-    const int estado = std::getenv("ARRAYPRUEBA") != nullptr ? MODO_ENCENDIDO : MODO_APAGADO;
+    const int estado = plataforma_hay_variable("ARRAYPRUEBA") ? MODO_ENCENDIDO : MODO_APAGADO;
     arrayprv_estado_modo.store(estado, std::memory_order_relaxed);
     return estado == MODO_ENCENDIDO;
 }

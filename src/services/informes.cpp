@@ -3,6 +3,7 @@
 #include "services/informes.h"
 
 #include "services/codificaciones.h"
+#include "services/plataforma.h"
 
 #include <atomic>
 #include <cstdio>
@@ -28,7 +29,7 @@ void manejador_por_defecto(const arr_informe *informe, void *)
     else
         std::fprintf(stderr, "arrays: broken precondition \"%s\" in %s, line %d\n",
                      informe->expresion, informe->ubicacion, linea);
-    if (std::getenv("ARRAYS_ABORTAR") != nullptr)
+    if (plataforma_hay_variable("ARRAYS_ABORTAR"))
         std::abort();
 }
 

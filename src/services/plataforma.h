@@ -1,7 +1,8 @@
 // What the library needs from the operating system beyond the C and C++ runtimes, behind one
 // interface with one implementation per platform (services/posix/, services/windows/): copying
-// memory that may be unreadable without faulting, large and aligned blocks, named blocks of
-// shared memory for an outside tool, and the default sinks of the debugger output.
+// memory that may be unreadable without faulting, large and aligned blocks, the environment,
+// named blocks of shared memory for an outside tool, the default sinks of the debugger output,
+// and the interrupt and output of a console program.
 #pragma once
 
 #include "arrays.h"
@@ -25,6 +26,17 @@ void plataforma_libera_grande(void *bloque, size_t bytes);
 // for it. Returned whole with plataforma_libera_alineada.
 void *plataforma_reserva_alineada(size_t bytes);
 void plataforma_libera_alineada(void *bloque, size_t bytes);
+
+// Whether the environment of the process holds the variable `nombre`, even with an empty value.
+bool plataforma_hay_variable(const char *nombre);
+
+// Runs `accion` when the user interrupts the program (Ctrl+C; besides, a termination request on
+// POSIX and Ctrl+Break on Windows).
+void plataforma_al_interrumpir(void (*accion)(int));
+
+// Standard output and error write the bytes given, as on POSIX (a Windows console program's
+// would turn each "\n" into "\r\n").
+void plataforma_salidas_tal_cual();
 
 // A named block of shared memory mapped into this process.
 struct BloqueCompartido {

@@ -2,6 +2,7 @@
 #include "ordenes.h"
 
 #include "debug/nombres.h"
+#include "services/plataforma.h"
 
 #include <chrono>
 #include <csignal>
@@ -49,8 +50,7 @@ int cuenta(bool seguir, unsigned intervalo_ms)
         imprime(*actual);
         return 0;
     }
-    std::signal(SIGINT, al_interrumpir);
-    std::signal(SIGTERM, al_interrumpir);
+    plataforma_al_interrumpir(al_interrumpir);
     std::optional<uint32_t> mostrada;
     bool esperando_dicho = false;
     while (interrumpido == 0) {

@@ -2,6 +2,8 @@
 // module of libarrays (debugarr_ini_serializa, debugarr_serializa_num_elems_array).
 #include "ordenes.h"
 
+#include "services/plataforma.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -45,6 +47,7 @@ int uso(const std::string &motivo)
 
 int main(int argc, char **argv)
 {
+    plataforma_salidas_tal_cual();
     const std::vector<std::string> args(argv + 1, argv + argc);
     if (args.empty())
         return uso("a command is needed");

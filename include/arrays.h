@@ -32,13 +32,13 @@
 #include <uchar.h>
 #endif
 
-#if defined(_WIN32)
+#if defined(_WIN32) && !defined(ARRAYS_STATIC) /* ARRAYS_STATIC: linked with the static library */
 #if defined(ARRAYS_BUILDING)
 #define ARRAYS_API __declspec(dllexport)
 #else
 #define ARRAYS_API __declspec(dllimport)
 #endif
-#elif defined(__GNUC__)
+#elif defined(__GNUC__) && !defined(_WIN32)
 #define ARRAYS_API __attribute__((visibility("default")))
 #else
 #define ARRAYS_API

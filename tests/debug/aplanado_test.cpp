@@ -96,7 +96,7 @@ TEST_F(Aplanado, BitArrayGetsTheAnswersOfAnInvalidArray)
     EXPECT_EQ(debugarr_tipo_array(array), 0xFFFFFFFFu);
     EXPECT_EQ(debugarr_elems(array), nullptr);
     debugarr_ini_serializa(array, identificador(50));
-    EXPECT_FALSE(existe_en_dev_shm(nombre_bloque(identificador(50)))) << "nothing was published";
+    EXPECT_FALSE(existe_bloque(nombre_bloque(identificador(50)))) << "nothing was published";
     arr_DestruyeBIT(&array);
 }
 

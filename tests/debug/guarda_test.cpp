@@ -4,9 +4,7 @@
 #include "debug/salidas.h"
 
 #include "core/arrayprv.h"
-
-#include <sys/mman.h>
-#include <unistd.h>
+#include "soporte/sistema.h"
 
 #include <cstring>
 #include <random>
@@ -16,25 +14,6 @@ namespace {
 using Guarda = PruebaDebug;
 
 const std::string DIRECCION_NO_VALIDA = "\r\nArray con direcci\xF3n no v\xE1lida.\r\n";
-
-// A page that cannot be read, for as long as the object lives.
-class PaginaIlegible {
-public:
-    PaginaIlegible()
-        : tamanyo_(static_cast<size_t>(sysconf(_SC_PAGESIZE))),
-          pagina_(mmap(nullptr, tamanyo_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0))
-    {
-    }
-    ~PaginaIlegible() { munmap(pagina_, tamanyo_); }
-    PaginaIlegible(const PaginaIlegible &) = delete;
-    PaginaIlegible &operator=(const PaginaIlegible &) = delete;
-    const ARRAY *como_array() const { return static_cast<const ARRAY *>(pagina_); }
-    void *direccion() const { return pagina_; }
-
-private:
-    size_t tamanyo_;
-    void *pagina_;
-};
 
 // Every entry point of the module on one handle, with what each answered.
 struct Respuestas {
@@ -69,13 +48,13 @@ TEST_F(Guarda, DestroyedArrayPrintsNothingAndIsAnsweredAsInvalid)
     EXPECT_EQ(respuestas.num_elems, 0u);
     EXPECT_EQ(respuestas.tipo, 0xFFFFFFFFu);
     EXPECT_EQ(respuestas.elems, nullptr);
-    EXPECT_FALSE(existe_en_dev_shm(nombre_bloque(identificador(2))));
+    EXPECT_FALSE(existe_bloque(nombre_bloque(identificador(2))));
 }
 
 TEST_F(Guarda, HeaderInAnUnreadablePageIsNamedWithoutAFault)
 {
-    PaginaIlegible pagina;
-    const Respuestas respuestas = consulta_todo(pagina.como_array(), identificador(3));
+    PaginaProhibida pagina;
+    const Respuestas respuestas = consulta_todo(reinterpret_cast<const ARRAY *>(pagina.inicio()), identificador(3));
     EXPECT_EQ(salidas(), estrechos({DIRECCION_NO_VALIDA, DIRECCION_NO_VALIDA}));
     EXPECT_EQ(respuestas.num_elems, 0u);
     EXPECT_EQ(respuestas.tipo, 0xFFFFFFFFu);
@@ -84,33 +63,32 @@ TEST_F(Guarda, HeaderInAnUnreadablePageIsNamedWithoutAFault)
 
 TEST_F(Guarda, HeaderMadeUnreadableWithMprotectIsNamedWithoutAFault)
 {
-    const size_t pagina = static_cast<size_t>(sysconf(_SC_PAGESIZE));
-    void *memoria = mmap(nullptr, pagina, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    Paginas pagina(1);
+    char *memoria = pagina.inicio();
     ARRAY *array = arr_CreaLong(2);
     std::memcpy(memoria, array, sizeof(ARRAY));
-    ASSERT_EQ(mprotect(memoria, pagina, PROT_NONE), 0);
-    debugarr_outputDebug(static_cast<const ARRAY *>(memoria));
+    pagina.prohibe(0, 1);
+    debugarr_outputDebug(reinterpret_cast<const ARRAY *>(memoria));
     EXPECT_EQ(salidas(), estrechos({DIRECCION_NO_VALIDA}));
-    ASSERT_EQ(mprotect(memoria, pagina, PROT_READ), 0);
-    debugarr_outputDebug(static_cast<const ARRAY *>(memoria)); // the copy's rows are the array's
+    pagina.solo_lectura(0, 1);
+    debugarr_outputDebug(reinterpret_cast<const ARRAY *>(memoria)); // the copy's rows are the array's
     EXPECT_EQ(salidas(), estrechos({"\r\nArray de 2 elementos:\r\n", "[1]: 0\r\n", "[2]: 0\r\n"}));
-    munmap(memoria, pagina);
     arr_DestruyeLong(&array);
 }
 
 TEST_F(Guarda, ForgedHeaderWhoseRowsCannotBeReadEndsTheDumpWithTheMessage)
 {
-    PaginaIlegible filas;
+    PaginaProhibida filas;
     ARRAY *array = arr_CreaDouble(3);
     CabeceraArray falsa{};
     std::memcpy(&falsa.array, array, sizeof(ARRAY));
-    falsa.array.buffer = static_cast<char **>(filas.direccion());
+    falsa.array.buffer = reinterpret_cast<char **>(filas.inicio());
     debugarr_outputDebug(&falsa.array);
     EXPECT_EQ(debugarr_elems(&falsa.array), nullptr);
     debugarr_ini_serializa(&falsa.array, identificador(4));
     EXPECT_EQ(salidas(), estrechos({"\r\nArray de 3 elementos:\r\n", DIRECCION_NO_VALIDA,
                                     DIRECCION_NO_VALIDA}));
-    EXPECT_FALSE(existe_en_dev_shm(nombre_bloque(identificador(4))));
+    EXPECT_FALSE(existe_bloque(nombre_bloque(identificador(4))));
     arr_DestruyeDouble(&array);
 }
 
@@ -127,13 +105,13 @@ TEST_F(Guarda, ForgedHeaderWhoseRowsDoNotAddUpIsNotCopied)
 
 TEST_F(Guarda, StringElementInUnreadableMemoryEndsTheDumpWithTheMessage)
 {
-    PaginaIlegible pagina;
+    PaginaProhibida pagina;
     ARRAY *array = arr_CreaCADENA(0);
     arr_AppendCADENA(array, "uno");
     arr_AppendCADENA(array, "dos");
     char *original;
     std::memcpy(&original, array->buffer[0] + sizeof(char *), sizeof original);
-    char *ilegible = static_cast<char *>(pagina.direccion());
+    char *ilegible = pagina.inicio();
     std::memcpy(array->buffer[0] + sizeof(char *), &ilegible, sizeof ilegible);
     debugarr_outputDebug(array);
     EXPECT_EQ(salidas(), estrechos({"\r\nArray de 2 elementos:\r\n", "[1]: \"uno\"\r\n",
@@ -156,7 +134,7 @@ TEST_F(Guarda, RandomPointersNeverFault)
         for (const TextoSalida &texto : salidas())
             EXPECT_EQ(texto.texto, DIRECCION_NO_VALIDA);
     }
-    EXPECT_FALSE(existe_en_dev_shm(nombre_bloque(identificador(5))));
+    EXPECT_FALSE(existe_bloque(nombre_bloque(identificador(5))));
 }
 
 } // namespace

@@ -3,14 +3,11 @@
 
 #include "debug/nombres.h"
 #include "services/codificaciones.h"
-
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "services/plataforma.h"
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <ostream>
 
 namespace {
@@ -56,45 +53,45 @@ Salidas PruebaDebug::salidas()
     return tomadas;
 }
 
-ULONG PruebaDebug::identificador(ULONG n)
+arr_ulong_t PruebaDebug::identificador(arr_ulong_t n)
 {
     // The base is the first process's id, handed down through the environment, so that a test's
     // new process (en_proceso_nuevo) names the same blocks as the test itself.
     static const ULONG base = [] {
-        const char *heredada = std::getenv("ARRAYS_PRUEBA_DEBUG_BASE");
-        if (heredada != nullptr)
-            return static_cast<ULONG>(std::strtoul(heredada, nullptr, 10));
-        const ULONG propia = static_cast<ULONG>(getpid());
-        setenv("ARRAYS_PRUEBA_DEBUG_BASE", std::to_string(propia).c_str(), 1);
+        if (const auto heredada = lee_variable("ARRAYS_PRUEBA_DEBUG_BASE"))
+            return static_cast<ULONG>(std::stoul(*heredada));
+        const ULONG propia = static_cast<ULONG>(id_proceso());
+        pon_variable("ARRAYS_PRUEBA_DEBUG_BASE", std::to_string(propia).c_str());
         return propia;
     }();
     return base * 1000 + n;
 }
 
-std::string nombre_bloque(ULONG identificador)
+std::string nombre_bloque(arr_ulong_t identificador)
 {
     char nombre[64];
     std::snprintf(nombre, sizeof nombre, DEBUGARR_PATRON_BLOQUE, static_cast<int32_t>(identificador));
     return nombre;
 }
 
-bool existe_en_dev_shm(const std::string &nombre)
+bool existe_bloque(const std::string &nombre)
 {
-    struct stat estado{};
-    return lstat(("/dev/shm/" + nombre).c_str(), &estado) == 0;
+    BloqueCompartido bloque;
+    if (!plataforma_abre_bloque(nombre.c_str(), &bloque))
+        return false;
+    plataforma_cierra_bloque(&bloque);
+    return true;
 }
 
 std::vector<unsigned char> lee_bloque(const std::string &nombre)
 {
-    const int fd = shm_open(("/" + nombre).c_str(), O_RDONLY, 0);
-    if (fd < 0)
+    BloqueCompartido bloque;
+    if (!plataforma_abre_bloque(nombre.c_str(), &bloque))
         return {};
-    struct stat estado{};
-    fstat(fd, &estado);
-    std::vector<unsigned char> bytes(static_cast<size_t>(estado.st_size));
-    if (!bytes.empty() && pread(fd, bytes.data(), bytes.size(), 0) != estado.st_size)
-        bytes.clear();
-    close(fd);
+    std::vector<unsigned char> bytes(bloque.bytes);
+    if (!bytes.empty())
+        std::memcpy(bytes.data(), bloque.vista, bytes.size());
+    plataforma_cierra_bloque(&bloque);
     return bytes;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "soporte/prueba_arrays.h"
+#include "soporte/sistema.h"
 
 #include <cstdint>
 #include <string>
@@ -33,12 +34,12 @@ protected:
     Salidas salidas();
 
     // An identifier unique to this test process (and the new processes it starts), for `n`.
-    static ULONG identificador(ULONG n);
+    static arr_ulong_t identificador(arr_ulong_t n);
 };
 
-// The name of the published block of an identifier, and whether /dev/shm holds it.
-std::string nombre_bloque(ULONG identificador);
-bool existe_en_dev_shm(const std::string &nombre);
+// The name of the published block of an identifier, and whether a block of that name exists.
+std::string nombre_bloque(arr_ulong_t identificador);
+bool existe_bloque(const std::string &nombre);
 
 // A published block's bytes as another process reads them: an empty vector when it is missing.
 std::vector<unsigned char> lee_bloque(const std::string &nombre);

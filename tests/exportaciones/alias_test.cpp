@@ -1,10 +1,12 @@
 // The names that the interface calls one function are one function: looked up in the built
-// libarrays.so, every name of a group has the address of the group's first name.
+// library (libarrays.so, arrays.dll), every name of a group has the address of the group's first name.
 #include "arrays.h"
+
+#include "soporte/sistema.h"
 
 #include <gtest/gtest.h>
 
-#include <dlfcn.h>
+#include <memory>
 
 #include <string>
 #include <vector>
@@ -51,32 +53,28 @@ class Alias : public ::testing::Test {
 protected:
     static void SetUpTestSuite()
     {
-        biblioteca_ = dlopen(RUTA_LIBARRAYS, RTLD_NOW | RTLD_LOCAL);
-        ASSERT_NE(biblioteca_, nullptr) << dlerror();
+        biblioteca_ = std::make_unique<Biblioteca>(RUTA_LIBARRAYS);
+        ASSERT_TRUE(biblioteca_->cargada()) << RUTA_LIBARRAYS;
     }
-    static void TearDownTestSuite()
-    {
-        if (biblioteca_ != nullptr)
-            dlclose(biblioteca_);
-        biblioteca_ = nullptr;
-    }
+    static void TearDownTestSuite() { biblioteca_.reset(); }
+    static void *direccion(const std::string &nombre) { return biblioteca_->direccion(nombre.c_str()); }
 
     // Every name of the group is exported with the address of the first.
     static void comprueba_una_direccion(const Nombres &grupo)
     {
         ASSERT_GE(grupo.size(), 2u);
-        void *primera = dlsym(biblioteca_, grupo.front().c_str());
+        void *primera = direccion(grupo.front());
         ASSERT_NE(primera, nullptr) << grupo.front() << " is not exported";
         for (const std::string &nombre : grupo) {
-            void *direccion = dlsym(biblioteca_, nombre.c_str());
-            EXPECT_NE(direccion, nullptr) << nombre << " is not exported";
-            EXPECT_EQ(direccion, primera) << nombre << " is not the function " << grupo.front();
+            void *suya = direccion(nombre);
+            EXPECT_NE(suya, nullptr) << nombre << " is not exported";
+            EXPECT_EQ(suya, primera) << nombre << " is not the function " << grupo.front();
         }
     }
 
-    static void *biblioteca_;
+    static std::unique_ptr<Biblioteca> biblioteca_;
 };
-void *Alias::biblioteca_ = nullptr;
+std::unique_ptr<Biblioteca> Alias::biblioteca_;
 
 TEST_F(Alias, EveryDestroyerIsOneFunction) { comprueba_una_direccion(grupos_compartidos()[0]); }
 TEST_F(Alias, EveryCountIsOneFunction) { comprueba_una_direccion(grupos_compartidos()[1]); }
@@ -93,9 +91,9 @@ TEST_F(Alias, EachArulongNameIsItsULongTwin)
 
 TEST_F(Alias, DistinctFunctionsHaveDistinctAddresses)
 {
-    EXPECT_NE(dlsym(biblioteca_, "arr_DestruyeDouble"), dlsym(biblioteca_, "arr_NumElemsDouble"));
-    EXPECT_NE(dlsym(biblioteca_, "arulong_append"), dlsym(biblioteca_, "arulong64_append"));
-    EXPECT_NE(dlsym(biblioteca_, "arulong_append_n"), dlsym(biblioteca_, "arr_AppendNULongs"));
+    EXPECT_NE(direccion("arr_DestruyeDouble"), direccion("arr_NumElemsDouble"));
+    EXPECT_NE(direccion("arulong_append"), direccion("arulong64_append"));
+    EXPECT_NE(direccion("arulong_append_n"), direccion("arr_AppendNULongs"));
 }
 
 } // namespace

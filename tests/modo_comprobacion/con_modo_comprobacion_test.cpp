@@ -5,11 +5,8 @@
 
 #include "core/arrayprv.h"
 #include "modo_comprobacion/escenarios.h"
+#include "soporte/sistema.h"
 
-#include <sys/mman.h>
-#include <unistd.h>
-
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -20,17 +17,17 @@ using ConModoComprobacion = PruebaArrays;
 
 TEST_F(ConModoComprobacion, ModeIsOnWhenArrayPruebaIsSet)
 {
-    ASSERT_NE(std::getenv("ARRAYPRUEBA"), nullptr) << "this program runs with ARRAYPRUEBA set";
+    ASSERT_TRUE(lee_variable("ARRAYPRUEBA")) << "this program runs with ARRAYPRUEBA set";
     EXPECT_EQ(arrayprv_es_modo_comprobacion(), CIERTO);
 }
 
 TEST_F(ConModoComprobacion, ModeStaysOnWhenTheVariableIsRemovedLater)
 {
     arrayprv_es_modo_comprobacion();
-    const std::string valor = std::getenv("ARRAYPRUEBA");
-    unsetenv("ARRAYPRUEBA");
-    EXPECT_EQ(arrayprv_es_modo_comprobacion(), CIERTO);
-    setenv("ARRAYPRUEBA", valor.c_str(), 1);
+    {
+        const VariableDeEntorno sin_ella("ARRAYPRUEBA", nullptr);
+        EXPECT_EQ(arrayprv_es_modo_comprobacion(), CIERTO);
+    }
 }
 
 TEST_F(ConModoComprobacion, AppendOnCorruptedPrefixSumsIsReported)
@@ -106,29 +103,11 @@ void usa_todo(ARRAY *handle)
     arr_nousar_RecorreDouble(handle, anota, nullptr, "prueba (MODO)", __LINE__);
 }
 
-// A page that may not be read at all: an address any read of which ends the process.
-class PaginaProhibida {
-public:
-    PaginaProhibida()
-        : tamanyo_(static_cast<size_t>(sysconf(_SC_PAGESIZE))),
-          pagina_(mmap(nullptr, tamanyo_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0))
-    {
-    }
-    ~PaginaProhibida() { munmap(pagina_, tamanyo_); }
-    PaginaProhibida(const PaginaProhibida &) = delete;
-    PaginaProhibida &operator=(const PaginaProhibida &) = delete;
-    ARRAY *como_handle() const { return static_cast<ARRAY *>(pagina_); }
-
-private:
-    size_t tamanyo_;
-    void *pagina_;
-};
-
 TEST_F(ConModoComprobacion, WildHandleIsReportedWithoutBeingRead)
 {
     const PaginaProhibida pagina;
-    ASSERT_NE(static_cast<void *>(pagina.como_handle()), MAP_FAILED);
-    usa_todo(pagina.como_handle());
+    ASSERT_NE(pagina.inicio(), nullptr);
+    usa_todo(reinterpret_cast<ARRAY *>(pagina.inicio()));
     EXPECT_EQ(informes(), Textos(5, INFORMES_SIN_CABECERA[0]));
 }
 

@@ -4,8 +4,7 @@
 
 #include "core/arrayprv.h"
 #include "modo_comprobacion/escenarios.h"
-
-#include <cstdlib>
+#include "soporte/sistema.h"
 
 namespace {
 
@@ -13,16 +12,16 @@ using SinModoComprobacion = PruebaArrays;
 
 TEST_F(SinModoComprobacion, ModeIsOffWithoutArrayPrueba)
 {
-    ASSERT_EQ(std::getenv("ARRAYPRUEBA"), nullptr) << "this program runs without ARRAYPRUEBA";
+    ASSERT_FALSE(lee_variable("ARRAYPRUEBA")) << "this program runs without ARRAYPRUEBA";
     EXPECT_EQ(arrayprv_es_modo_comprobacion(), FALSO);
 }
 
 TEST_F(SinModoComprobacion, ModeStaysOffWhenTheVariableIsSetLater)
 {
     arrayprv_es_modo_comprobacion();
-    setenv("ARRAYPRUEBA", "", 1);
+    pon_variable("ARRAYPRUEBA", "");
     EXPECT_EQ(arrayprv_es_modo_comprobacion(), FALSO);
-    unsetenv("ARRAYPRUEBA");
+    quita_variable("ARRAYPRUEBA");
 }
 
 TEST_F(SinModoComprobacion, AppendOnCorruptedPrefixSumsIsNotReported)

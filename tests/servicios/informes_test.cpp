@@ -1,6 +1,7 @@
 // The report service: the replaceable handler, the default handler that writes to standard error
 // (and aborts when ARRAYS_ABORTAR exists), the count of reports and the three kinds of report.
 #include "services/informes.h"
+#include "soporte/sistema.h"
 
 #include <gtest/gtest.h>
 
@@ -35,34 +36,6 @@ void anota(const arr_informe *informe, void *contexto)
 
 // A second handler, told apart from the first only by its address.
 void anota_tambien(const arr_informe *informe, void *contexto) { anota(informe, contexto); }
-
-// Sets (or, given NULL, removes) an environment variable for the life of the object, then puts
-// back what was there.
-class VariableDeEntorno {
-public:
-    VariableDeEntorno(const char *nombre, const char *valor) : nombre_(nombre)
-    {
-        if (const char *previo = std::getenv(nombre))
-            previo_ = previo;
-        if (valor != nullptr)
-            setenv(nombre, valor, 1);
-        else
-            unsetenv(nombre);
-    }
-    ~VariableDeEntorno()
-    {
-        if (previo_)
-            setenv(nombre_, previo_->c_str(), 1);
-        else
-            unsetenv(nombre_);
-    }
-    VariableDeEntorno(const VariableDeEntorno &) = delete;
-    VariableDeEntorno &operator=(const VariableDeEntorno &) = delete;
-
-private:
-    const char *nombre_;
-    std::optional<std::string> previo_;
-};
 
 // Each test starts and ends with the default handler, and with nothing recorded.
 class Informes : public ::testing::Test {

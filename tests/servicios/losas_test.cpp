@@ -4,8 +4,9 @@
 // uses a slot size of its own, so that no other test's chunks change its counts.
 #include "services/losas.h"
 
+#include "services/envenenado.h"
+
 #include <gtest/gtest.h>
-#include <sanitizer/asan_interface.h>
 
 #include <cstdint>
 #include <cstring>

@@ -3,12 +3,7 @@
 // blocks, wrong types and bad command lines refused with a clear message and their exit code.
 #include "debug/nombres.h"
 #include "debug/salidas.h"
-
-#include <fcntl.h>
-#include <signal.h>
-#include <sys/mman.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include "services/plataforma.h"
 
 #include <chrono>
 #include <cstdio>
@@ -35,17 +30,24 @@ std::string lee_fichero(const std::string &ruta)
     return s.str();
 }
 
-// Runs arrays-visor with `argumentos` and waits for it.
+// Where this process's scratch files go: `nombre` made unique to it.
+std::string temporal(const std::string &nombre)
+{
+    return directorio_temporal() + "arrays_visor_" + std::to_string(id_proceso()) + "_" + nombre;
+}
+
+// Runs arrays-visor with `argumentos` (separated by spaces) and waits for it.
 Resultado visor(const std::string &argumentos)
 {
-    const std::string base = "/tmp/arrays_visor_prueba_" + std::to_string(getpid());
-    const int estado = std::system((std::string(RUTA_VISOR) + " " + argumentos + " > " + base +
-                                    ".out 2> " + base + ".err")
-                                       .c_str());
-    Resultado r{WIFEXITED(estado) ? WEXITSTATUS(estado) : -1, lee_fichero(base + ".out"),
-                lee_fichero(base + ".err")};
-    std::remove((base + ".out").c_str());
-    std::remove((base + ".err").c_str());
+    std::istringstream palabras(argumentos);
+    std::vector<std::string> lista;
+    for (std::string palabra; palabras >> palabra;)
+        lista.push_back(palabra);
+    const std::string salida = temporal("salida"), errores = temporal("errores");
+    const int codigo = Proceso(RUTA_VISOR, lista, salida, errores).espera();
+    Resultado r{codigo, lee_fichero(salida), lee_fichero(errores)};
+    std::remove(salida.c_str());
+    std::remove(errores.c_str());
     return r;
 }
 
@@ -62,21 +64,24 @@ std::string junta(const Salidas &salidas)
 class BloqueAMano {
 public:
     BloqueAMano(ULONG identificador, size_t bytes, const std::vector<uint32_t> &cabecera)
-        : nombre_("/" + nombre_bloque(identificador))
+        : nombre_(nombre_bloque(identificador))
     {
-        const int fd = shm_open(nombre_.c_str(), O_RDWR | O_CREAT | O_EXCL, 0600);
-        EXPECT_GE(fd, 0);
-        EXPECT_EQ(ftruncate(fd, static_cast<off_t>(bytes)), 0);
-        for (size_t i = 0; i < cabecera.size(); ++i)
-            EXPECT_EQ(pwrite(fd, &cabecera[i], 4, static_cast<off_t>(4 * i)), 4);
-        close(fd);
+        EXPECT_TRUE(plataforma_crea_bloque(nombre_.c_str(), bytes, &bloque_));
+        if (bloque_.vista != nullptr && !cabecera.empty())
+            std::memcpy(bloque_.vista, cabecera.data(), 4 * cabecera.size());
     }
-    ~BloqueAMano() { shm_unlink(nombre_.c_str()); }
+    ~BloqueAMano()
+    {
+        plataforma_cierra_bloque(&bloque_);
+        plataforma_quita_nombre(nombre_.c_str());
+    }
+    BloqueAMano(const BloqueAMano &) = delete;
+    BloqueAMano &operator=(const BloqueAMano &) = delete;
 
 private:
     std::string nombre_;
+    BloqueCompartido bloque_;
 };
-
 
 TEST_F(Visor, EveryTypeReadsBackAsTheDumpListsIt)
 {
@@ -118,7 +123,7 @@ TEST_F(Visor, EveryTypeReadsBackAsTheDumpListsIt)
         EXPECT_EQ(r.codigo, 0) << r.errores;
         EXPECT_EQ(r.salida, volcado);
         debugarr_fin_serializa(identificador(k));
-        EXPECT_FALSE(existe_en_dev_shm(nombre_bloque(identificador(k))));
+        EXPECT_FALSE(existe_bloque(nombre_bloque(identificador(k))));
     }
     for (Caso &caso : casos)
         arr_DestruyeDouble(&caso.array);
@@ -161,20 +166,26 @@ TEST_F(Visor, MissingBlockIsNamed)
               "arrays-visor: no published block " + nombre_bloque(identificador(22)) + "\n");
 }
 
+// Where the system keeps a block's byte size (POSIX), 4 bytes are shorter than the header; where
+// it maps whole pages (Windows), the reader finds a page of zeros, whose sizes do not add up.
 TEST_F(Visor, BlockShorterThanItsHeaderIsRefused)
 {
     const BloqueAMano bloque(identificador(23), 4, {});
     const Resultado r = visor("show " + std::to_string(identificador(23)) + " --tipo long");
     EXPECT_EQ(r.codigo, 3);
-    EXPECT_NE(r.errores.find("shorter than its 8-byte header"), std::string::npos) << r.errores;
+    const char *motivo = bytes_visibles_de_bloque(4) < 8 ? "shorter than its 8-byte header"
+                                                          : "sizes do not add up";
+    EXPECT_NE(r.errores.find(motivo), std::string::npos) << r.errores;
 }
 
 TEST_F(Visor, BlockShorterThanItsHeaderSaysIsRefused)
 {
-    const BloqueAMano bloque(identificador(24), 8 + 16, {400, 8});
+    const BloqueAMano bloque(identificador(24), 8 + 16, {400000, 8});
     const Resultado r = visor("show " + std::to_string(identificador(24)) + " --tipo double");
     EXPECT_EQ(r.codigo, 3);
-    EXPECT_NE(r.errores.find("shorter than its header says: 400 data bytes announced, 16 present"),
+    const std::string presentes = std::to_string(bytes_visibles_de_bloque(8 + 16) - 8);
+    EXPECT_NE(r.errores.find("shorter than its header says: 400000 data bytes announced, " +
+                             presentes + " present"),
               std::string::npos)
         << r.errores;
 }
@@ -185,7 +196,7 @@ TEST_F(Visor, BlockWhoseSizesDoNotAddUpIsRefused)
     const BloqueAMano impar(identificador(26), 8 + 16, {12, 8});
     const Resultado r_cero = visor("show " + std::to_string(identificador(25)) + " --tipo double");
     const Resultado r_impar = visor("plot " + std::to_string(identificador(26)) +
-                                    " --tipo punto2d -o /tmp/nunca.svg");
+                                    " --tipo punto2d -o " + temporal("nunca.svg"));
     EXPECT_EQ(r_cero.codigo, 3);
     EXPECT_NE(r_cero.errores.find("sizes do not add up"), std::string::npos) << r_cero.errores;
     EXPECT_EQ(r_impar.codigo, 3);
@@ -208,7 +219,7 @@ TEST_F(Visor, PlotDrawsThePolylineWithItsBoxAndVertexCount)
     ARRAY *puntos = arr_CreaPunto2D(0);
     arr_AnyadirCirculoPunto2D(puntos, 5, -3, 2, 0, 40);
     debugarr_ini_serializa(puntos, identificador(27));
-    const std::string fichero = "/tmp/arrays_visor_" + std::to_string(getpid()) + ".svg";
+    const std::string fichero = temporal("poligonal.svg");
     const Resultado r =
         visor("plot " + std::to_string(identificador(27)) + " --tipo punto2d -o " + fichero);
     EXPECT_EQ(r.codigo, 0) << r.errores;
@@ -233,7 +244,7 @@ TEST_F(Visor, PlotOfAOnePointPolylineDoesNotDivideByZero)
     ARRAY *puntos = arr_CreaPunto3D(0);
     arr_AppendPunto3D(puntos, 1, 1, 1);
     debugarr_ini_serializa(puntos, identificador(28));
-    const std::string fichero = "/tmp/arrays_visor_uno_" + std::to_string(getpid()) + ".svg";
+    const std::string fichero = temporal("uno.svg");
     const Resultado r =
         visor("plot " + std::to_string(identificador(28)) + " --tipo punto3d -o " + fichero);
     EXPECT_EQ(r.codigo, 0) << r.errores;
@@ -250,14 +261,8 @@ TEST_F(Visor, CountIsReadAndFollowedUntilInterrupted)
     ARRAY *array = arr_CreaLong(3);
     debugarr_serializa_num_elems_array(array);
     EXPECT_EQ(visor("count").salida, "3 elements\n");
-    const std::string base = "/tmp/arrays_visor_sigue_" + std::to_string(getpid());
-    const pid_t hijo = fork();
-    if (hijo == 0) {
-        const int fd = open(base.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        dup2(fd, 1);
-        execl(RUTA_VISOR, RUTA_VISOR, "count", "--watch", "--interval", "20", nullptr);
-        _exit(127);
-    }
+    const std::string base = temporal("sigue"), errores = temporal("sigue_errores");
+    Proceso sigue(RUTA_VISOR, {"count", "--watch", "--interval", "20"}, base, errores);
     // Waits (ten seconds at most) until the viewer has printed `texto`.
     const auto espera = [&base](const std::string &texto) {
         for (int i = 0; i < 1000 && lee_fichero(base) != texto; ++i)
@@ -267,12 +272,11 @@ TEST_F(Visor, CountIsReadAndFollowedUntilInterrupted)
     arr_AppendLong(array, 1);
     debugarr_serializa_num_elems_array(array);
     espera("3 elements\n4 elements\n");
-    kill(hijo, SIGINT);
-    int estado = 0;
-    waitpid(hijo, &estado, 0);
-    EXPECT_TRUE(WIFEXITED(estado) && WEXITSTATUS(estado) == 0);
+    sigue.interrumpe();
+    EXPECT_EQ(sigue.espera(), 0) << lee_fichero(errores);
     EXPECT_EQ(lee_fichero(base), "3 elements\n4 elements\n");
     std::remove(base.c_str());
+    std::remove(errores.c_str());
     arr_DestruyeLong(&array);
 }
 

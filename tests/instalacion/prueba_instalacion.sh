@@ -26,7 +26,8 @@ ejecuta() {
 
 echo "CMake package:"
 cmake -S "$fuentes/tests/instalacion/consumidor" -B "$temporal/cmake" -G Ninja \
-      -DCMAKE_PREFIX_PATH="$prefijo" ${cadena:+-DCMAKE_TOOLCHAIN_FILE="$cadena"} >/dev/null
+      -DCMAKE_PREFIX_PATH="$prefijo" \
+      ${cadena:+-DCMAKE_TOOLCHAIN_FILE="$cadena" -DCMAKE_FIND_ROOT_PATH="$prefijo"} >/dev/null
 cmake --build "$temporal/cmake" >/dev/null
 salida=$(ejecuta "$(find "$temporal/cmake" -maxdepth 1 -name 'uso' -o -maxdepth 1 -name 'uso.exe')")
 echo "  $salida"

@@ -1,12 +1,11 @@
-// Publishing on Windows: the block is a file mapping owned by its creator; a name that another
-// kind of object holds is refused and left as it is; a mapping of the name that another holder
-// keeps open is taken over, zeroed, when it is large enough, and refused when it is not.
+// Publishing on Windows: the block is a file mapping with its creator's default security; a name
+// that another kind of object holds is refused and left as it is; a mapping of the name that
+// another holder keeps open is taken over, zeroed, when it is large enough, and refused when it
+// is not.
 
 // <windows.h> first: it brings its own BOOL, BYTE and WCHAR, so the library's header leaves its
 // short names out.
 #include <windows.h>
-
-#include <aclapi.h>
 
 #include "debug/salidas.h"
 
@@ -18,42 +17,6 @@
 namespace {
 
 using Publicacion = PruebaDebug;
-
-// The user of this process.
-std::vector<unsigned char> usuario_propio()
-{
-    HANDLE testigo = nullptr;
-    OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &testigo);
-    DWORD bytes = 0;
-    GetTokenInformation(testigo, TokenUser, nullptr, 0, &bytes);
-    std::vector<unsigned char> datos(bytes);
-    GetTokenInformation(testigo, TokenUser, datos.data(), bytes, &bytes);
-    CloseHandle(testigo);
-    const PSID sid = reinterpret_cast<TOKEN_USER *>(datos.data())->User.Sid;
-    const auto *inicio = static_cast<const unsigned char *>(sid);
-    return {inicio, inicio + GetLengthSid(sid)};
-}
-
-TEST_F(Publicacion, BlockIsForItsOwnerOnly)
-{
-    ARRAY *array = arr_CreaLong(1);
-    debugarr_ini_serializa(array, identificador(2));
-    HANDLE mapeo =
-        OpenFileMappingA(READ_CONTROL, FALSE, nombre_bloque(identificador(2)).c_str());
-    ASSERT_NE(mapeo, nullptr);
-    PSID propietario = nullptr;
-    PSECURITY_DESCRIPTOR descriptor = nullptr;
-    ASSERT_EQ(GetSecurityInfo(mapeo, SE_KERNEL_OBJECT, OWNER_SECURITY_INFORMATION, &propietario,
-                              nullptr, nullptr, nullptr, &descriptor),
-              static_cast<DWORD>(ERROR_SUCCESS));
-    const auto *inicio = static_cast<const unsigned char *>(propietario);
-    EXPECT_EQ(std::vector<unsigned char>(inicio, inicio + GetLengthSid(propietario)),
-              usuario_propio());
-    LocalFree(descriptor);
-    CloseHandle(mapeo);
-    debugarr_fin_serializa(identificador(2));
-    arr_DestruyeLong(&array);
-}
 
 TEST_F(Publicacion, NameHeldByAnotherKindOfObjectIsRefusedAndLeftAsItIs)
 {

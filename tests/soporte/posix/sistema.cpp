@@ -93,7 +93,13 @@ Proceso::Proceso(const std::string &programa, const std::vector<std::string> &ar
 
 Proceso::~Proceso() { espera(); }
 
-void Proceso::interrumpe() { kill(static_cast<pid_t>(id_), SIGINT); }
+bool Proceso::interrumpe()
+{
+    if (kill(static_cast<pid_t>(id_), SIGINT) == 0)
+        return true;
+    kill(static_cast<pid_t>(id_), SIGKILL);
+    return false;
+}
 
 int Proceso::espera()
 {

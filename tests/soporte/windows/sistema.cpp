@@ -134,9 +134,13 @@ Proceso::~Proceso()
 }
 
 // Ctrl+Break, sent to the program's process group (Ctrl+C cannot be sent to another group).
-void Proceso::interrumpe()
+bool Proceso::interrumpe()
 {
-    GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, GetProcessId(reinterpret_cast<HANDLE>(id_)));
+    const auto proceso = reinterpret_cast<HANDLE>(id_);
+    if (GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, GetProcessId(proceso)))
+        return true;
+    TerminateProcess(proceso, 1);
+    return false;
 }
 
 int Proceso::espera()

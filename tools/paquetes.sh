@@ -1,5 +1,6 @@
 # The one list of Debian 12 packages that building, testing and benchmarking libarrays need, and
-# the function that installs those missing. Sourced by tools/demo, tools/check and tools/bench.
+# the function that installs those missing. Sourced by tools/demo, tools/check,
+# tools/check-windows and tools/bench.
 
 # The library and the demo.
 PAQUETES_DEMO=(cmake ninja-build g++)
@@ -9,6 +10,10 @@ PAQUETES_DEMO=(cmake ninja-build g++)
 # that the header must compile after.
 PAQUETES_PRUEBAS=("${PAQUETES_DEMO[@]}" clang libclang-rt-14-dev libgtest-dev libgmock-dev
                   libboost-dev valgrind pkgconf python3 unicode-data x11proto-dev)
+# The Windows build and its tests: mingw-w64's compilers (the POSIX-threads variant) and objdump,
+# GoogleTest's sources to build it for Windows, and wine to run the programs.
+PAQUETES_WINDOWS=(cmake ninja-build g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
+                  googletest libboost-dev pkgconf wine wine64)
 # The benchmarks besides: Google Benchmark and GLib, one of the peers.
 PAQUETES_BANCOS=("${PAQUETES_PRUEBAS[@]}" libbenchmark-dev libglib2.0-dev)
 

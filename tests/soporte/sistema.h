@@ -87,9 +87,9 @@ public:
     Proceso(const Proceso &) = delete;
     Proceso &operator=(const Proceso &) = delete;
 
-    // Asks the program to stop as the user's interrupt key would, and says whether the system
-    // delivered the request; when it could not (wine gives no console events to a program
-    // without a console), the program is ended at once instead, so that waiting cannot hang.
+    // Asks the program to stop as the user's interrupt key would, and says whether the request
+    // was delivered; when it was not, the program is ended at once instead, so that waiting for
+    // it cannot hang.
     bool interrumpe();
     // Waits for the program to end: its exit status, or -1 when it did not exit normally.
     int espera();

@@ -272,17 +272,12 @@ TEST_F(Visor, CountIsReadAndFollowedUntilInterrupted)
     arr_AppendLong(array, 1);
     debugarr_serializa_num_elems_array(array);
     espera("3 elements\n4 elements\n");
-    const bool entregada = sigue.interrumpe();
-    const int estado = sigue.espera();
+    EXPECT_TRUE(sigue.interrumpe());
+    EXPECT_EQ(sigue.espera(), 0) << lee_fichero(errores);
     EXPECT_EQ(lee_fichero(base), "3 elements\n4 elements\n");
-    const std::string avisos = lee_fichero(errores);
     std::remove(base.c_str());
     std::remove(errores.c_str());
     arr_DestruyeLong(&array);
-    if (!entregada)
-        GTEST_SKIP() << "the count was followed, but this system delivers no interrupt to the "
-                        "viewer, so its way out is not seen";
-    EXPECT_EQ(estado, 0) << avisos;
 }
 
 } // namespace

@@ -100,8 +100,8 @@ void *Biblioteca::direccion(const char *nombre) const
     return reinterpret_cast<void *>(GetProcAddress(static_cast<HMODULE>(manejador_), nombre));
 }
 
-// The program starts in a process group of its own, so that the interrupt reaches it alone; the
-// exit status is the process's exit code.
+// The program starts with a console of its own, hidden, so that the interrupt reaches it alone;
+// the exit status is the process's exit code.
 Proceso::Proceso(const std::string &programa, const std::vector<std::string> &argumentos,
                  const std::string &salida, const std::string &errores)
 {
@@ -112,12 +112,13 @@ Proceso::Proceso(const std::string &programa, const std::vector<std::string> &ar
     HANDLE fallos = fichero_heredable(errores);
     STARTUPINFOA inicio{};
     inicio.cb = sizeof inicio;
-    inicio.dwFlags = STARTF_USESTDHANDLES;
+    inicio.dwFlags = STARTF_USESTDHANDLES | STARTF_USESHOWWINDOW;
+    inicio.wShowWindow = SW_HIDE;
     inicio.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
     inicio.hStdOutput = fuera;
     inicio.hStdError = fallos;
     PROCESS_INFORMATION proceso{};
-    if (CreateProcessA(nullptr, linea.data(), nullptr, nullptr, TRUE, CREATE_NEW_PROCESS_GROUP,
+    if (CreateProcessA(nullptr, linea.data(), nullptr, nullptr, TRUE, CREATE_NEW_CONSOLE,
                        nullptr, nullptr, &inicio, &proceso)) {
         CloseHandle(proceso.hThread);
         id_ = reinterpret_cast<long long>(proceso.hProcess);
@@ -133,14 +134,22 @@ Proceso::~Proceso()
         CloseHandle(reinterpret_cast<HANDLE>(id_));
 }
 
-// Ctrl+Break, sent to the program's process group (Ctrl+C cannot be sent to another group).
+// Ctrl+C, pressed on the program's console: this process leaves its own console, joins the
+// program's with Ctrl+C ignored for itself, sends the event, and goes back once the program is
+// gone (ten seconds at most), so that the event cannot reach this process afterwards.
 bool Proceso::interrumpe()
 {
     const auto proceso = reinterpret_cast<HANDLE>(id_);
-    if (GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, GetProcessId(proceso)))
-        return true;
-    TerminateProcess(proceso, 1);
-    return false;
+    FreeConsole();
+    bool entregada = AttachConsole(GetProcessId(proceso)) && SetConsoleCtrlHandler(nullptr, TRUE) &&
+                     GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0) &&
+                     WaitForSingleObject(proceso, 10000) == WAIT_OBJECT_0;
+    if (!entregada)
+        TerminateProcess(proceso, 1);
+    FreeConsole();
+    SetConsoleCtrlHandler(nullptr, FALSE);
+    AttachConsole(ATTACH_PARENT_PROCESS);
+    return entregada;
 }
 
 int Proceso::espera()

@@ -15,13 +15,4 @@ typedef wchar_t WCHAR;
 
 #include "arrays.h"
 
-int main(void)
-{
-    BOOL de_windows = 1;
-    arr_wchar_t ancha[2] = {0x41, 0};
-    ARRAY *array = arr_CreaCADENA_u(0);
-    arr_AppendCADENA_u(array, ancha);
-    de_windows = arr_NumElemsCADENA_u(array) == 1;
-    arr_DestruyeCADENA_u(&array);
-    return de_windows ? 0 : 1;
-}
+#include "uso_tras_windows.h"

@@ -1,5 +1,6 @@
 // The names that the interface calls one function are one function: looked up in the built
-// library (libarrays.so, arrays.dll), every name of a group has the address of the group's first name.
+// library (libarrays.so, arrays.dll), every name of a group has the address of the group's first
+// name.
 #include "arrays.h"
 
 #include "soporte/sistema.h"
@@ -7,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-
 #include <string>
 #include <vector>
 

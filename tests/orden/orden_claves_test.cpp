@@ -214,6 +214,59 @@ TEST_F(OrdenClaves, WideAndClusteredKeysEndAsTheDocumentedQuicksortLeavesThem)
     }
 }
 
+// Large arrays, whose buckets take several digits each way between the copy and the rows before
+// they are short enough for insertion, in uneven rows: the order of std::sort.
+template <typename T>
+void ordena_grande_como_std_sort(tipo_elem_array tipo, std::vector<T> valores,
+                                 void (*ordena)(ARRAY *))
+{
+    std::mt19937_64 azar(valores.size());
+    ARRAY *array = crea_con<T>(tipo, std::vector<T>(valores.begin(), valores.end() - 5000));
+    for (auto v = valores.end() - 5000; v != valores.end(); ++v)
+        arrayprv_inserta(array, static_cast<ULONG>(azar() % array->num_elems), &*v, tipo);
+    std::sort(valores.begin(), valores.end());
+    ordena(array);
+    EXPECT_EQ(elementos<T>(array, tipo), valores);
+    arrayprv_destruye(&array);
+}
+
+TEST_F(OrdenClaves, LargeArraysOfEveryDistributionEndAsStdSortLeavesThem)
+{
+    std::mt19937_64 azar(11);
+    const size_t n = 400000;
+    const std::vector<std::function<ULONG64()>> reparticiones = {
+        [&] { return azar(); },
+        [&] { return azar() >> (azar() % 64); },
+        [&] { return azar() & 0xFFFF00000000FFFF; },
+        [&] { return (azar() % 3000) << 20; },
+        [&] { return azar() % 40; },
+    };
+    for (const auto &reparto : reparticiones) {
+        std::vector<ULONG64> u(n);
+        std::generate(u.begin(), u.end(), reparto);
+        ordena_grande_como_std_sort<ULONG64>(elem_ULONG64_NO_USAR, u,
+                                             [](ARRAY *a) { arr_QSortULong64(a, nullptr); });
+        ordena_grande_como_std_sort<LONG64>(elem_LONG64_NO_USAR,
+                                            std::vector<LONG64>(u.begin(), u.end()),
+                                            [](ARRAY *a) { arr_QSortLong64(a, nullptr); });
+        std::vector<double> d(n);
+        std::transform(u.begin(), u.end(), d.begin(),
+                       [](ULONG64 x) { return static_cast<double>(static_cast<LONG64>(x)) / 4096; });
+        ordena_grande_como_std_sort<double>(elem_DOUBLE_NO_USAR, d,
+                                            [](ARRAY *a) { arr_QSortDouble(a, nullptr); });
+        std::vector<LONG> w(n);
+        std::transform(u.begin(), u.end(), w.begin(),
+                       [](ULONG64 x) { return static_cast<LONG>(x ^ (x >> 32)); });
+        ordena_grande_como_std_sort<LONG>(elem_LONG_NO_USAR, w,
+                                          [](ARRAY *a) { arr_QSortLong(a, nullptr); });
+        std::vector<SHORT> c(n);
+        std::transform(u.begin(), u.end(), c.begin(),
+                       [](ULONG64 x) { return static_cast<SHORT>(x ^ (x >> 48)); });
+        ordena_grande_como_std_sort<SHORT>(elem_SHORT_NO_USAR, c,
+                                           [](ARRAY *a) { arr_QSortShort(a, nullptr); });
+    }
+}
+
 TEST_F(OrdenClaves, DoublesWithANaNOrBothZerosTakeTheDocumentedQuicksort)
 {
     std::vector<double> v = entrada<double>(Forma::azar, Variante::tal_cual, 3000, 3000);

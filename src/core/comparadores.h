@@ -125,7 +125,8 @@ BOOL arrayprv_mismo_puntero(const void *elemento, const void *dato);
 int arrayprv_compara_elementos(const funciones_ordenacion *tabla, adaptador_orden compara,
                                const void *p1, const void *p2, size_t size_elem);
 
-// ---- One record per element type for the sort: comparator member, its text, how to call it ---
+// ---- One record per element type for the sort: comparator member, element size, its text, how
+// to call it ---
 
 template <tipo_elem_array TAG> struct Orden;
 
@@ -133,6 +134,7 @@ template <tipo_elem_array TAG> struct Orden;
 #define ARR_ORDEN_POR_VALOR(TAG, MIEMBRO, T)                                                      \
     template <> struct Orden<TAG> {                                                               \
         static constexpr auto miembro = &funciones_ordenacion::MIEMBRO;                           \
+        static constexpr size_t tamanyo = sizeof(T);                                              \
         static constexpr const char *texto_constructor = "(" #MIEMBRO ") != NULL";                \
         static constexpr const char *texto_adaptador = "(funciones_ordenacion->" #MIEMBRO ") != NULL"; \
         template <typename F> static int llama(F f, const void *p1, const void *p2)              \
@@ -163,6 +165,7 @@ ARR_ORDEN_POR_VALOR(elem_CADENA_U_NO_USAR, func_compara_cadena_u, const WCHAR *)
 // Point types: the comparator takes the coordinates (and the private data) of both points.
 template <> struct Orden<elem_PUNTO2D_NO_USAR> {
     static constexpr auto miembro = &funciones_ordenacion::func_compara_punto2D;
+    static constexpr size_t tamanyo = 2 * sizeof(double); // bytes of an element
     static constexpr const char *texto_constructor = "(func_compara_punto2D) != NULL";
     static constexpr const char *texto_adaptador =
         "(funciones_ordenacion->func_compara_punto2D) != NULL";
@@ -178,6 +181,7 @@ template <> struct Orden<elem_PUNTO2D_NO_USAR> {
 
 template <> struct Orden<elem_PUNTO2DX_NO_USAR> {
     static constexpr auto miembro = &funciones_ordenacion::func_compara_punto2Dx;
+    static constexpr size_t tamanyo = 2 * sizeof(double) + sizeof(void *); // bytes of an element
     static constexpr const char *texto_constructor = "(func_compara_punto2Dx) != NULL";
     static constexpr const char *texto_adaptador =
         "(funciones_ordenacion->func_compara_punto2Dx) != NULL";
@@ -195,6 +199,7 @@ template <> struct Orden<elem_PUNTO2DX_NO_USAR> {
 
 template <> struct Orden<elem_PUNTO3D_NO_USAR> {
     static constexpr auto miembro = &funciones_ordenacion::func_compara_punto3D;
+    static constexpr size_t tamanyo = 3 * sizeof(double); // bytes of an element
     static constexpr const char *texto_constructor = "(func_compara_punto3D) != NULL";
     static constexpr const char *texto_adaptador =
         "(funciones_ordenacion->func_compara_punto3D) != NULL";
@@ -259,16 +264,6 @@ void arrayprv_copia_elemento(const ARRAY *array, LONG pos, void *buffer, size_t 
 void arrayprv_pon_elemento(ARRAY *array, LONG pos, const void *buffer, size_t tam);
 void arrayprv_intercambia_elementos(ARRAY *array, LONG i, LONG j, void *tmp, size_t tam_tmp);
 
-// Builds the sort table of TAG (default comparator substituted by the caller), sorts, and
-// destroys the table. A NULL comparator is reported by the table's constructor and sorts nothing.
-template <tipo_elem_array TAG> void arrayprv_ordena(ARRAY *array, comparador_de<TAG> f)
-{
-    funciones_ordenacion *tabla = arrayprv_crea_ordenacion<TAG>(f);
-    if (tabla == nullptr)
-        return;
-    arrayprv_qsort(array, tabla, arrayprv_adaptador<TAG>, TAG);
-    arrayprv_destruye_funciones_ordenacion(&tabla);
-}
 
 // The element-copy function of a copy: receives the stored pointer, returns the one to store.
 using funcion_copia = void *(*)(const void *elemento);

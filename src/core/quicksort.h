@@ -433,3 +433,58 @@ template <typename T, int (*ORDEN)(T, T)> void arrayprv_qsort_valores(ARRAY *arr
         arrayprv_ordena_desordenado<T>(array, comparacion);
     arrayprv_qsort_termina(array);
 }
+
+// The caller's comparator of TAG through its sort table (arrayprv_crea_ordenacion), called
+// directly: what the table's adapter does once its checks have passed, which they always do here
+// (the elements are never NULL at the call, and the table holds the comparator). Identical bytes
+// are equal without a call; the pivot and the swap space are copies of an element's bytes.
+template <tipo_elem_array TAG> class ComparacionUsuario {
+public:
+    static constexpr bool orden_total = false;
+
+    explicit ComparacionUsuario(const funciones_ordenacion *tabla)
+        : comparador_(tabla->*Orden<TAG>::miembro)
+    {
+    }
+
+    int orden(const void *a, const void *b) const
+    {
+        if (a == nullptr || b == nullptr) [[unlikely]]
+            return comparac_IGUALES;
+        if (std::memcmp(a, b, TAMANYO) == 0)
+            return comparac_IGUALES;
+        return Orden<TAG>::llama(comparador_, a, b);
+    }
+    const void *pivote() const { return pivote_; }
+    void fija_pivote(const void *elemento) { std::memcpy(pivote_, elemento, TAMANYO); }
+    void intercambia(void *a, void *b) const
+    {
+        unsigned char temporal[TAMANYO];
+        std::memcpy(temporal, a, TAMANYO);
+        std::memcpy(a, b, TAMANYO);
+        std::memcpy(b, temporal, TAMANYO);
+    }
+
+private:
+    static constexpr size_t TAMANYO = Orden<TAG>::tamanyo;
+    comparador_de<TAG> comparador_;
+    alignas(std::max_align_t) unsigned char pivote_[TAMANYO];
+};
+
+// Builds the sort table of TAG (default comparator substituted by the caller), sorts as
+// arrayprv_qsort does with the table's adapter, and destroys the table. A NULL comparator is
+// reported by the table's constructor and sorts nothing.
+template <tipo_elem_array TAG> void arrayprv_ordena(ARRAY *array, comparador_de<TAG> comparador)
+{
+    constexpr const char *UBICACION = UBICACION_ARRAYPRV;
+    funciones_ordenacion *tabla = arrayprv_crea_ordenacion<TAG>(comparador);
+    if (tabla == nullptr)
+        return;
+    const bool hay_array = ARR_EXIGE(array != nullptr, "(array) != NULL");
+    if (arrayprv_qsort_empieza(array, hay_array, TAG)) {
+        ComparacionUsuario<TAG> comparacion(tabla);
+        arrayprv_quicksort(array, comparacion);
+        arrayprv_qsort_termina(array);
+    }
+    arrayprv_destruye_funciones_ordenacion(&tabla);
+}

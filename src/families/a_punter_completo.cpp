@@ -3,6 +3,7 @@
 #include "families/a_punter.h"
 
 #include "core/comparadores.h"
+#include "core/quicksort.h"
 #include "services/informes.h"
 
 namespace {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "core/comparadores.h"
+#include "core/quicksort.h"
 #include "orden/ayudas_orden.h"
 
 #include <random>

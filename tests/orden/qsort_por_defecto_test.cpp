@@ -6,6 +6,7 @@
 #include "soporte/prueba_arrays.h"
 
 #include "core/comparadores.h"
+#include "core/quicksort.h"
 #include "orden/ayudas_orden.h"
 #include "orden/contraste_orden.h"
 

@@ -140,13 +140,13 @@ void registra_forma(const std::string &nombre_forma, const std::string &tipo, Fo
 template <typename T> void registra_tipo(const std::string &tipo)
 {
     registra_forma<T>("random", tipo, Forma::aleatorio, {1000, 1000000, 10000000});
-    registra_forma<T>("sorted", tipo, Forma::ordenado, {1000, 1000000});
-    registra_forma<T>("reversed", tipo, Forma::invertido, {1000, 1000000});
-    registra_forma<T>("equal", tipo, Forma::iguales, {1000, 1000000});
-    registra_forma<T>("organ_pipe", tipo, Forma::organo, {1000, 1000000});
-    registra_forma<T>("sawtooth", tipo, Forma::sierra, {1000, 1000000});
-    registra_forma<T>("stagger", tipo, Forma::escalonada, {1000, 1000000});
-    registra_forma<T>("plateau", tipo, Forma::meseta, {1000, 1000000});
+    registra_forma<T>("sorted", tipo, Forma::ordenado, {1000, 1000000, 10000000});
+    registra_forma<T>("reversed", tipo, Forma::invertido, {1000, 1000000, 10000000});
+    registra_forma<T>("equal", tipo, Forma::iguales, {1000, 1000000, 10000000});
+    registra_forma<T>("organ_pipe", tipo, Forma::organo, {1000, 1000000, 10000000});
+    registra_forma<T>("sawtooth", tipo, Forma::sierra, {1000, 1000000, 10000000});
+    registra_forma<T>("stagger", tipo, Forma::escalonada, {1000, 1000000, 10000000});
+    registra_forma<T>("plateau", tipo, Forma::meseta, {1000, 1000000, 10000000});
 }
 
 void registra_comparador_usuario()

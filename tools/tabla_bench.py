@@ -115,12 +115,32 @@ def imprime_formas(tiempos, tamanyo=10**6, limite=2.0):
         print(f"| {forma} | " + " | ".join(celdas) + " |")
 
 
+def imprime_auxiliar(auxiliar):
+    if not auxiliar:
+        return
+    print("\n## Scratch memory of the default sort\n")
+    print("The rise of the process's peak resident memory while the library sorts random values "
+          "with the default order, in bytes per element (one copy of the array is the value's "
+          "size; a copy that the C library's allocator makes from memory the process already "
+          "holds does not show). The target is at most one copy.\n")
+    print("| type | size | scratch bytes per element | value size |")
+    print("|---|---:|---:|---:|")
+    for (operacion, tamanyo), valor in sorted(auxiliar.items()):
+        nombre, tam = TAMANYOS_VALOR[operacion]
+        print(f"| {nombre} | {tamanyo:,} | {valor:.2f} | {tam} |")
+
+
+TAMANYOS_VALOR = {"sort_scratch": ("double", 8), "sort_scratch_long": ("Long", 4),
+                  "sort_scratch_long64": ("Long64", 8), "sort_scratch_byte": ("BYTE", 1)}
+
+
 def main(carpeta):
     # one output per benchmark process; the first one's context describes the machine
     salidas = [json.load(open(r)) for r in sorted(glob.glob(os.path.join(carpeta, "*.json")))]
     # (operation, size) -> container -> every repetition's value; the median is reported
     muestras_tiempo = defaultdict(lambda: defaultdict(list))
     muestras_bytes = defaultdict(lambda: defaultdict(list))
+    muestras_auxiliar = defaultdict(list)  # (operation, size) -> scratch bytes per element
     for b in (b for datos in salidas for b in datos["benchmarks"]):
         if b.get("run_type") == "aggregate":
             continue
@@ -129,7 +149,9 @@ def main(carpeta):
         partes = [p for p in b["name"].split("/") if not re.match(opcion, p)]
         operacion, contenedor, tamanyo = partes
         clave = (operacion, int(tamanyo))
-        if "bytes_per_element" in b:
+        if "scratch_bytes_per_element" in b:
+            muestras_auxiliar[clave].append(b["scratch_bytes_per_element"])
+        elif "bytes_per_element" in b:
             muestras_bytes[clave][contenedor].append(b["bytes_per_element"])
             muestras_bytes[(operacion + ", mapped", int(tamanyo))][contenedor].append(
                 b["mapped_bytes_per_element"])
@@ -138,6 +160,7 @@ def main(carpeta):
     mediana = lambda muestras: {c: statistics.median(v) for c, v in muestras.items()}
     tiempos = {k: mediana(v) for k, v in muestras_tiempo.items()}
     bytes_por = {k: mediana(v) for k, v in muestras_bytes.items()}
+    auxiliar = {k: statistics.median(v) for k, v in muestras_auxiliar.items()}
 
     print("# Benchmark results\n")
     print(f"Machine: {maquina(salidas[0].get('context', {}) if salidas else {})}.\n")
@@ -160,6 +183,7 @@ def main(carpeta):
         celdas = [f"{v['arrays'] / v[p]:.3f}" if p in v and v[p] > 0 else "" for p in peers]
         print(f"| {operacion} | {tamanyo:,} | " + " | ".join(celdas) + " |")
     imprime_formas(tiempos)
+    imprime_auxiliar(auxiliar)
     if bytes_por:
         print("\n## Bytes per element\n")
         print("Bytes handed out to the container (the C library's bytes in use, and the slots this "

@@ -182,7 +182,8 @@ def main(carpeta):
             continue
         celdas = [f"{v['arrays'] / v[p]:.3f}" if p in v and v[p] > 0 else "" for p in peers]
         print(f"| {operacion} | {tamanyo:,} | " + " | ".join(celdas) + " |")
-    imprime_formas(tiempos)
+    imprime_formas(tiempos, 10**6)
+    imprime_formas(tiempos, 10**7)
     imprime_auxiliar(auxiliar)
     if bytes_por:
         print("\n## Bytes per element\n")

@@ -1,0 +1,143 @@
+// The rows of the narrow and wide string families, made alike for both widths, and of the copies
+// of a string that callers hand over to an array.
+#include "servicios/sin_memoria/operaciones.h"
+
+#include <string>
+
+namespace {
+
+// A row of 2048 bytes holds this many string pointers.
+constexpr ULONG FILA = 2048 / sizeof(void *);
+
+// The exports of one width, by the names of the narrow ones: S is "" or _u.
+#define ARR_EXPORTACIONES_CADENA(S)                                                               \
+    static constexpr auto crea = arr_CreaCADENA##S;                                               \
+    static constexpr auto append = arr_AppendCADENA##S;                                           \
+    static constexpr auto append_original = arr_AppendCADENAOriginal##S;                          \
+    static constexpr auto append_n = arr_AppendNCADENAs##S;                                       \
+    static constexpr auto inserta = arr_InsertarCADENA##S;                                        \
+    static constexpr auto borra = arr_BorrarCADENA##S;                                            \
+    static constexpr auto get_copia = arr_GetCopiaCADENA##S;                                      \
+    static constexpr auto set = arr_SetCADENA##S;                                                 \
+    static constexpr auto ordena = arr_QSortCADENA##S;                                            \
+    static constexpr auto referencias = arr_cadena_de_referencias##S;                             \
+    static constexpr auto copia = arr_CopiaCADENA##S;                                             \
+    static constexpr auto concatena = arr_ConcatenaCADENA##S;                                     \
+    static constexpr auto aumenta = arr_AumentaTamanyoCADENA##S;                                  \
+    static constexpr auto reduce = arr_ReduceTamanyoCADENA##S;
+
+template <typename C> struct Cadenas;
+
+template <> struct Cadenas<char> {
+    static constexpr const char *sufijo = "";
+    static constexpr Clase clase = Clase::cadenas;
+    ARR_EXPORTACIONES_CADENA()
+    static constexpr auto copia_cadena = cad_copia_cadena;
+    static constexpr const char *nombre_copia_cadena = "cad_copia_cadena";
+    static void destruye_cadena(char **cadena) { zarpstr_destruye(cadena); }
+    static std::string texto(const char *cadena) { return cadena; }
+};
+
+template <> struct Cadenas<WCHAR> {
+    static constexpr const char *sufijo = "_u";
+    static constexpr Clase clase = Clase::cadenas_anchas;
+    ARR_EXPORTACIONES_CADENA(_u)
+    static constexpr auto copia_cadena = widestr_fun_copia;
+    static constexpr const char *nombre_copia_cadena = "widestr_fun_copia";
+    static void destruye_cadena(WCHAR **cadena) { widestr_nousar_destruye(cadena, __FILE__, __LINE__); }
+    static std::string texto(const WCHAR *cadena) { return texto_ancho(cadena); }
+};
+
+#undef ARR_EXPORTACIONES_CADENA
+
+// The i-th string of the rows: a word with a letter outside ASCII, then i.
+template <typename C> std::basic_string<C> cadena(ULONG i)
+{
+    std::basic_string<C> texto;
+    for (const char c : "cad\xF1n " + std::to_string(i))
+        texto += static_cast<C>(static_cast<unsigned char>(c));
+    return texto;
+}
+
+template <typename C> auto lleno(ULONG num)
+{
+    return [num] {
+        ARRAY *array = Cadenas<C>::crea(0);
+        for (ULONG i = 0; i < num; ++i)
+            Cadenas<C>::append(array, cadena<C>(i).c_str());
+        return array;
+    };
+}
+
+// The string an operation handed out, as text, released.
+template <typename C> void anota_y_libera(Caso &caso, C *cadena)
+{
+    caso.anota(cadena == nullptr ? "NULL" : Cadenas<C>::texto(cadena));
+    Cadenas<C>::destruye_cadena(&cadena);
+}
+
+template <typename C> int descendente(const C *a, const C *b)
+{
+    const std::basic_string<C> x(a);
+    const std::basic_string<C> y(b);
+    return x > y ? comparac_PRIMERO_MENOR : (x < y ? comparac_PRIMERO_MAYOR : comparac_IGUALES);
+}
+
+template <typename C> void anyade_anchura(std::vector<Operacion> &filas)
+{
+    using S = Cadenas<C>;
+    const auto nombre = [](const char *operacion) { return operacion + std::string(S::sufijo); };
+    const Clase clase = S::clase;
+    filas.push_back(crea(nombre("arr_CreaCADENA"), S::crea, FILA + 1, clase));
+    filas.push_back(cambia(nombre("arr_AppendCADENA"), lleno<C>(FILA),
+                           [](ARRAY *a) { S::append(a, cadena<C>(7).c_str()); }, clase));
+    filas.push_back({nombre("arr_AppendCADENAOriginal"), [clase](Caso &caso) {
+                         ARRAY *array = caso.guarda(lleno<C>(FILA)(), clase);
+                         C *propia = S::copia_cadena(cadena<C>(7).c_str());
+                         caso.llama([&] { S::append_original(array, &propia); });
+                         caso.anota(propia == nullptr ? "taken" : "left");
+                     }});
+    filas.push_back(cambia(nombre("arr_AppendNCADENAs"), lleno<C>(FILA - 1),
+                           [](ARRAY *a) { S::append_n(a, 3, cadena<C>(7).c_str()); }, clase));
+    filas.push_back(cambia(nombre("arr_InsertarCADENA"), lleno<C>(FILA),
+                           [](ARRAY *a) { S::inserta(a, FILA / 2, cadena<C>(7).c_str()); }, clase));
+    filas.push_back(cambia(nombre("arr_BorrarCADENA"),
+                           para_borrar([](ULONG num) { return lleno<C>(num); }, S::borra, FILA),
+                           [](ARRAY *a) { S::borra(a, 2 * FILA); }, clase));
+    filas.push_back(cambia(nombre("arr_SetCADENA"), lleno<C>(5),
+                           [](ARRAY *a) { S::set(a, 2, cadena<C>(7).c_str()); }, clase));
+    filas.push_back(cambia(nombre("arr_QSortCADENA"), lleno<C>(100),
+                           [](ARRAY *a) { S::ordena(a, descendente<C>); }, clase));
+    filas.push_back(hace(nombre("arr_CopiaCADENA"), lleno<C>(FILA + 1), S::copia, clase));
+    filas.push_back(une(nombre("arr_ConcatenaCADENA"), lleno<C>(FILA + 1), S::concatena, clase));
+    filas.push_back(cambia(nombre("arr_AumentaTamanyoCADENA"), lleno<C>(10),
+                           [](ARRAY *a) { return S::aumenta(a, FILA + 1); }, clase));
+    filas.push_back(cambia(nombre("arr_ReduceTamanyoCADENA"), lleno<C>(2 * FILA + 1),
+                           [](ARRAY *a) { S::reduce(a, FILA / 2); }, clase));
+    filas.push_back({nombre("arr_GetCopiaCADENA"), [clase](Caso &caso) {
+                         ARRAY *array = caso.guarda(lleno<C>(5)(), clase);
+                         anota_y_libera(caso, caso.llama([&] { return S::get_copia(array, 3); }));
+                     }});
+    filas.push_back({nombre("arr_cadena_de_referencias"), [clase](Caso &caso) {
+                         ARRAY *array = caso.guarda(lleno<C>(5)(), clase);
+                         anota_y_libera(caso, caso.llama([&] {
+                                            return S::referencias(array, '(', ',', ')');
+                                        }));
+                     }});
+    filas.push_back({S::nombre_copia_cadena, [](Caso &caso) {
+                         const std::basic_string<C> original = cadena<C>(7);
+                         anota_y_libera(caso, caso.llama([&] {
+                                            return S::copia_cadena(original.c_str());
+                                        }));
+                     }});
+}
+
+} // namespace
+
+std::vector<Operacion> operaciones_cadenas()
+{
+    std::vector<Operacion> filas;
+    anyade_anchura<char>(filas);
+    anyade_anchura<WCHAR>(filas);
+    return filas;
+}

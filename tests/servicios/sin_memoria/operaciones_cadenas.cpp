@@ -2,6 +2,8 @@
 // of a string that callers hand over to an array.
 #include "servicios/sin_memoria/operaciones.h"
 
+#include "cadenas/anchura.h"
+
 #include <string>
 
 namespace {
@@ -9,29 +11,14 @@ namespace {
 // A row of 2048 bytes holds this many string pointers.
 constexpr ULONG FILA = 2048 / sizeof(void *);
 
-// The exports of one width, by the names of the narrow ones: S is "" or _u.
-#define ARR_EXPORTACIONES_CADENA(S)                                                               \
-    static constexpr auto crea = arr_CreaCADENA##S;                                               \
-    static constexpr auto append = arr_AppendCADENA##S;                                           \
-    static constexpr auto append_original = arr_AppendCADENAOriginal##S;                          \
-    static constexpr auto append_n = arr_AppendNCADENAs##S;                                       \
-    static constexpr auto inserta = arr_InsertarCADENA##S;                                        \
-    static constexpr auto borra = arr_BorrarCADENA##S;                                            \
-    static constexpr auto get_copia = arr_GetCopiaCADENA##S;                                      \
-    static constexpr auto set = arr_SetCADENA##S;                                                 \
-    static constexpr auto ordena = arr_QSortCADENA##S;                                            \
-    static constexpr auto referencias = arr_cadena_de_referencias##S;                             \
-    static constexpr auto copia = arr_CopiaCADENA##S;                                             \
-    static constexpr auto concatena = arr_ConcatenaCADENA##S;                                     \
-    static constexpr auto aumenta = arr_AumentaTamanyoCADENA##S;                                  \
-    static constexpr auto reduce = arr_ReduceTamanyoCADENA##S;
-
+// The exports of one width, under the names that the string tests give them, and the growth.
 template <typename C> struct Cadenas;
 
 template <> struct Cadenas<char> {
     static constexpr const char *sufijo = "";
     static constexpr Clase clase = Clase::cadenas;
-    ARR_EXPORTACIONES_CADENA()
+    ARR_PRUEBA_FUNCIONES_CADENA()
+    static constexpr auto aumenta = arr_AumentaTamanyoCADENA;
     static constexpr auto copia_cadena = cad_copia_cadena;
     static constexpr const char *nombre_copia_cadena = "cad_copia_cadena";
     static void destruye_cadena(char **cadena) { zarpstr_destruye(cadena); }
@@ -41,14 +28,13 @@ template <> struct Cadenas<char> {
 template <> struct Cadenas<WCHAR> {
     static constexpr const char *sufijo = "_u";
     static constexpr Clase clase = Clase::cadenas_anchas;
-    ARR_EXPORTACIONES_CADENA(_u)
+    ARR_PRUEBA_FUNCIONES_CADENA(_u)
+    static constexpr auto aumenta = arr_AumentaTamanyoCADENA_u;
     static constexpr auto copia_cadena = widestr_fun_copia;
     static constexpr const char *nombre_copia_cadena = "widestr_fun_copia";
     static void destruye_cadena(WCHAR **cadena) { widestr_nousar_destruye(cadena, __FILE__, __LINE__); }
     static std::string texto(const WCHAR *cadena) { return texto_ancho(cadena); }
 };
-
-#undef ARR_EXPORTACIONES_CADENA
 
 // The i-th string of the rows: a word with a letter outside ASCII, then i.
 template <typename C> std::basic_string<C> cadena(ULONG i)
@@ -62,9 +48,9 @@ template <typename C> std::basic_string<C> cadena(ULONG i)
 template <typename C> auto lleno(ULONG num)
 {
     return [num] {
-        ARRAY *array = Cadenas<C>::crea(0);
+        ARRAY *array = Cadenas<C>::Crea(0);
         for (ULONG i = 0; i < num; ++i)
-            Cadenas<C>::append(array, cadena<C>(i).c_str());
+            Cadenas<C>::Append(array, cadena<C>(i).c_str());
         return array;
     };
 }
@@ -88,40 +74,40 @@ template <typename C> void anyade_anchura(std::vector<Operacion> &filas)
     using S = Cadenas<C>;
     const auto nombre = [](const char *operacion) { return operacion + std::string(S::sufijo); };
     const Clase clase = S::clase;
-    filas.push_back(crea(nombre("arr_CreaCADENA"), S::crea, FILA + 1, clase));
+    filas.push_back(crea(nombre("arr_CreaCADENA"), S::Crea, FILA + 1, clase));
     filas.push_back(cambia(nombre("arr_AppendCADENA"), lleno<C>(FILA),
-                           [](ARRAY *a) { S::append(a, cadena<C>(7).c_str()); }, clase));
-    filas.push_back({nombre("arr_AppendCADENAOriginal"), [clase](Caso &caso) {
-                         ARRAY *array = caso.guarda(lleno<C>(FILA)(), clase);
+                           [](ARRAY *a) { S::Append(a, cadena<C>(7).c_str()); }, clase));
+    filas.push_back({nombre("arr_AppendCADENAOriginal"), [](Caso &caso) {
+                         ARRAY *array = caso.guarda(lleno<C>(FILA)(), S::clase);
                          C *propia = S::copia_cadena(cadena<C>(7).c_str());
-                         caso.llama([&] { S::append_original(array, &propia); });
+                         caso.llama([&] { S::AppendOriginal(array, &propia); });
                          caso.anota(propia == nullptr ? "taken" : "left");
                      }});
     filas.push_back(cambia(nombre("arr_AppendNCADENAs"), lleno<C>(FILA - 1),
-                           [](ARRAY *a) { S::append_n(a, 3, cadena<C>(7).c_str()); }, clase));
+                           [](ARRAY *a) { S::AppendN(a, 3, cadena<C>(7).c_str()); }, clase));
     filas.push_back(cambia(nombre("arr_InsertarCADENA"), lleno<C>(FILA),
-                           [](ARRAY *a) { S::inserta(a, FILA / 2, cadena<C>(7).c_str()); }, clase));
+                           [](ARRAY *a) { S::Insertar(a, FILA / 2, cadena<C>(7).c_str()); }, clase));
     filas.push_back(cambia(nombre("arr_BorrarCADENA"),
-                           para_borrar([](ULONG num) { return lleno<C>(num); }, S::borra, FILA),
-                           [](ARRAY *a) { S::borra(a, 2 * FILA); }, clase));
+                           para_borrar([](ULONG num) { return lleno<C>(num); }, S::Borrar, FILA),
+                           [](ARRAY *a) { S::Borrar(a, 2 * FILA); }, clase));
     filas.push_back(cambia(nombre("arr_SetCADENA"), lleno<C>(5),
-                           [](ARRAY *a) { S::set(a, 2, cadena<C>(7).c_str()); }, clase));
+                           [](ARRAY *a) { S::Set(a, 2, cadena<C>(7).c_str()); }, clase));
     filas.push_back(cambia(nombre("arr_QSortCADENA"), lleno<C>(100),
-                           [](ARRAY *a) { S::ordena(a, descendente<C>); }, clase));
-    filas.push_back(hace(nombre("arr_CopiaCADENA"), lleno<C>(FILA + 1), S::copia, clase));
-    filas.push_back(une(nombre("arr_ConcatenaCADENA"), lleno<C>(FILA + 1), S::concatena, clase));
+                           [](ARRAY *a) { S::QSort(a, descendente<C>); }, clase));
+    filas.push_back(hace(nombre("arr_CopiaCADENA"), lleno<C>(FILA + 1), S::Copia, clase));
+    filas.push_back(une(nombre("arr_ConcatenaCADENA"), lleno<C>(FILA + 1), S::Concatena, clase));
     filas.push_back(cambia(nombre("arr_AumentaTamanyoCADENA"), lleno<C>(10),
                            [](ARRAY *a) { return S::aumenta(a, FILA + 1); }, clase));
     filas.push_back(cambia(nombre("arr_ReduceTamanyoCADENA"), lleno<C>(2 * FILA + 1),
-                           [](ARRAY *a) { S::reduce(a, FILA / 2); }, clase));
-    filas.push_back({nombre("arr_GetCopiaCADENA"), [clase](Caso &caso) {
-                         ARRAY *array = caso.guarda(lleno<C>(5)(), clase);
-                         anota_y_libera(caso, caso.llama([&] { return S::get_copia(array, 3); }));
+                           [](ARRAY *a) { S::ReduceTamanyo(a, FILA / 2); }, clase));
+    filas.push_back({nombre("arr_GetCopiaCADENA"), [](Caso &caso) {
+                         ARRAY *array = caso.guarda(lleno<C>(5)(), S::clase);
+                         anota_y_libera(caso, caso.llama([&] { return S::GetCopia(array, 3); }));
                      }});
-    filas.push_back({nombre("arr_cadena_de_referencias"), [clase](Caso &caso) {
-                         ARRAY *array = caso.guarda(lleno<C>(5)(), clase);
+    filas.push_back({nombre("arr_cadena_de_referencias"), [](Caso &caso) {
+                         ARRAY *array = caso.guarda(lleno<C>(5)(), S::clase);
                          anota_y_libera(caso, caso.llama([&] {
-                                            return S::referencias(array, '(', ',', ')');
+                                            return S::Referencias(array, '(', ',', ')');
                                         }));
                      }});
     filas.push_back({S::nombre_copia_cadena, [](Caso &caso) {

@@ -12,7 +12,8 @@
 
 #include <vector>
 
-namespace {
+namespace
+{
 
 std::vector<Operacion> todas_las_operaciones()
 {
@@ -32,7 +33,8 @@ BOOL cuenta_y_reintenta(size_t, void *contexto)
     return CIERTO;
 }
 
-class SinMemoriaPorOperacion : public ::testing::TestWithParam<Operacion> {
+class SinMemoriaPorOperacion : public ::testing::TestWithParam<Operacion>
+{
 protected:
     // A first run leaves what the operation keeps for later runs (free header slots, a slab
     // chunk kept for reuse), so that every run after it asks the system for the same requests.
@@ -55,6 +57,32 @@ protected:
     size_t bloques_antes_ = 0;
 };
 
+// The requests whose failure without a handler is a death test of its own. Each death test starts
+// a process (under wine, a whole new one), and the operations make well over a thousand requests
+// in all: every request of an operation that makes at most three, the first and the last of the
+// others.
+std::vector<size_t> peticiones_sin_manejador(size_t k)
+{
+    if (k <= 3) {
+        std::vector<size_t> todas;
+        for (size_t n = 1; n <= k; ++n)
+            todas.push_back(n);
+        return todas;
+    }
+    return {1, k};
+}
+
+// The death tests come first: each starts a process from this one, which is smaller before the
+// sweeps with a handler have run (under AddressSanitizer, by the memory it holds back).
+TEST_P(SinMemoriaPorOperacion, EachFailedRequestWithoutAHandlerEndsTheProcessNamingTheSize)
+{
+    const size_t k = peticiones();
+    ASSERT_GE(k, 1u) << "the operation asks the system for no memory";
+    for (const size_t n : peticiones_sin_manejador(k))
+        EXPECT_DEATH(ejecuta(GetParam(), n), "^arrays: out of memory: no block of [0-9]+ bytes\n$")
+            << "request " << n;
+}
+
 TEST_P(SinMemoriaPorOperacion, EachFailedRequestRetriedThroughTheHandlerChangesNothing)
 {
     const Caso::Resultado referencia = ejecuta(GetParam(), 0);
@@ -74,30 +102,6 @@ TEST_P(SinMemoriaPorOperacion, EachFailedRequestRetriedThroughTheHandlerChangesN
         ASSERT_EQ(zarpspy_bloques_vivos(), bloques_antes_) << "request " << n;
     }
     RecordProperty("requests_failed", static_cast<int>(k));
-}
-
-// The requests whose failure without a handler is a death test of its own. Each death test starts
-// a process (under wine, a whole new one), and the operations make some 2,600 requests in all:
-// every request of an operation that makes at most three, the first and the last of the others.
-std::vector<size_t> peticiones_sin_manejador(size_t k)
-{
-    if (k <= 3) {
-        std::vector<size_t> todas;
-        for (size_t n = 1; n <= k; ++n)
-            todas.push_back(n);
-        return todas;
-    }
-    return {1, k};
-}
-
-TEST_P(SinMemoriaPorOperacion, EachFailedRequestWithoutAHandlerEndsTheProcessNamingTheSize)
-{
-    const size_t k = peticiones();
-    ASSERT_GE(k, 1u) << "the operation asks the system for no memory";
-    for (const size_t n : peticiones_sin_manejador(k))
-        EXPECT_DEATH(ejecuta(GetParam(), n),
-                     "^arrays: out of memory: no block of [0-9]+ bytes\n$")
-            << "request " << n;
 }
 
 INSTANTIATE_TEST_SUITE_P(Exportaciones, SinMemoriaPorOperacion,

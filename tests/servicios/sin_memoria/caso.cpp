@@ -6,10 +6,10 @@
 #include "services/sin_memoria.h"
 #include "servicios/sin_memoria/reserva.h"
 
-#include <cstdio>
 #include <cstring>
 
-namespace {
+namespace
+{
 
 template <typename T> T lee(const unsigned char *celda)
 {
@@ -27,8 +27,27 @@ std::string texto_entero(const void *entero)
 
 std::string describe(const ARRAY *array, Clase clase);
 
-// One element of a row, by the class of its array.
-std::string describe_elemento(const unsigned char *elemento, size_t size_elem, Clase clase)
+// The class of the arrays that an array of arrays holds; plana for any other.
+Clase interior(Clase clase)
+{
+    return clase == Clase::arrays_de_estructuras ? Clase::estructuras : Clase::plana;
+}
+
+bool de_arrays(Clase clase)
+{
+    return clase == Clase::arrays_de_estructuras || clase == Clase::arrays_de_puntos;
+}
+
+// Destroys the 2D point array held in an element of an array of arrays.
+void libera_puntos(void **elemento)
+{
+    auto *array = static_cast<ARRAY *>(*elemento);
+    arr_DestruyePunto2D(&array);
+    *elemento = nullptr;
+}
+
+// One element of a row of an array of pointers, by the class of its array.
+std::string describe_elemento(const unsigned char *elemento, Clase clase)
 {
     switch (clase) {
     case Clase::cadenas:
@@ -38,16 +57,10 @@ std::string describe_elemento(const unsigned char *elemento, size_t size_elem, C
     case Clase::estructuras:
         return texto_entero(lee<const void *>(elemento));
     case Clase::arrays_de_estructuras:
-        return describe(lee<const ARRAY *>(elemento), Clase::estructuras);
-    default: {
-        std::string bytes;
-        char hex[3];
-        for (size_t i = 0; i < size_elem; ++i) {
-            std::snprintf(hex, sizeof hex, "%02x", elemento[i]);
-            bytes += hex;
-        }
-        return bytes;
-    }
+    case Clase::arrays_de_puntos:
+        return describe(lee<const ARRAY *>(elemento), interior(clase));
+    default:
+        return {};
     }
 }
 
@@ -74,16 +87,18 @@ std::string describe(const ARRAY *array, Clase clase)
     int32_t num_elems = -1;
     uint64_t size_elem = 0;
     arryprv_es_array_correcto(array, &tipo, &num_elems, &size_elem);
-    std::string texto =
-        "{" + std::to_string(tipo) + " " + std::to_string(num_elems) + " elems:";
+    std::string texto = "{" + std::to_string(tipo) + " " + std::to_string(num_elems) + " elems:";
     if (clase == Clase::puntos_con_datos)
         return texto + describe_puntos_con_datos(array) + "}";
     ULONG en_fila = 0;
     for (ULONG fila = 0; const void *elementos = arr_Fila(array, fila, &en_fila); ++fila) {
-        texto += "[";
         const auto *elemento = static_cast<const unsigned char *>(elementos);
-        for (ULONG i = 0; i < en_fila; ++i, elemento += size_elem)
-            texto += describe_elemento(elemento, size_elem, clase) + " ";
+        texto += "[" + std::to_string(en_fila) + ":";
+        if (clase == Clase::plana) // the bytes themselves, which only need to compare equal
+            texto.append(reinterpret_cast<const char *>(elemento), en_fila * size_elem);
+        else
+            for (ULONG i = 0; i < en_fila; ++i, elemento += size_elem)
+                texto += describe_elemento(elemento, clase) + " ";
         texto += "]";
     }
     return texto + "}";
@@ -95,11 +110,11 @@ void comprueba(const ARRAY *array, Clase clase)
     if (array == nullptr)
         return;
     arrayprv_comprueba_array(array, 1);
-    if (clase != Clase::arrays_de_estructuras)
+    if (!de_arrays(clase))
         return;
-    for (ULONG i = 0; i < arr_NumElemsPunto2D(array); ++i)
+    for (ULONG i = 0; i < arr_NumElemsDouble(array); ++i)
         comprueba(static_cast<const ARRAY *>(arr_GetPunteroConTipo(const_cast<ARRAY *>(array), i)),
-                  Clase::estructuras);
+                  interior(clase));
 }
 
 void destruye(ARRAY **array, Clase clase)
@@ -110,6 +125,9 @@ void destruye(ARRAY **array, Clase clase)
         break;
     case Clase::arrays_de_estructuras:
         arr_DestruyeEstructurasArrayConTipo(array, libera_entero);
+        break;
+    case Clase::arrays_de_puntos:
+        arr_DestruyeEstructurasConTipo(array, libera_puntos);
         break;
     case Clase::puntos_con_datos:
         arr_DestruyePunto2DXPriv(array, libera_entero);
@@ -126,10 +144,10 @@ std::string texto_ancho(const WCHAR *cadena)
 {
     if (cadena == nullptr)
         return "NULL";
-    std::string texto;
-    for (; *cadena != 0; ++cadena)
-        texto += std::to_string(static_cast<unsigned>(*cadena)) + " ";
-    return texto;
+    size_t longitud = 0;
+    while (cadena[longitud] != 0)
+        ++longitud;
+    return std::string(reinterpret_cast<const char *>(cadena), longitud * sizeof(WCHAR));
 }
 
 void *nuevo_entero(int valor) { return new int(valor); }

@@ -21,6 +21,7 @@ enum class Clase {
     cadenas_anchas,        // wide strings
     estructuras,           // pointers to ints that the array owns (structure arrays)
     arrays_de_estructuras, // pointers to structure arrays of ints
+    arrays_de_puntos,      // pointers to 2D point arrays
     puntos_con_datos       // 2D points whose private data is an int the array owns
 };
 
@@ -29,7 +30,8 @@ void *nuevo_entero(int valor);
 void *copia_entero(const void *entero);
 void libera_entero(void **entero);
 
-class Caso {
+class Caso
+{
 public:
     // `peticion_que_falla`: the request to the system, counted from the start of `llama`, that
     // fails once (0: none).
@@ -76,7 +78,7 @@ private:
     std::string texto_;
 };
 
-// A wide string (or NULL) as text: its code units in decimal.
+// A wide string (or NULL) as text: the bytes of its code units.
 std::string texto_ancho(const WCHAR *cadena);
 
 // One row of the table: a public export that asks the system for memory, and a run of it.

@@ -72,12 +72,12 @@ template <typename Lleno, typename Borra> auto para_borrar(Lleno lleno, Borra bo
 }
 
 // An array of 64 full rows and more, its first row split by an insert at 0: its reads by position
-// go through the direct table, which the first of them builds. `inserta(array)` inserts at 0.
-template <typename Lleno, typename Inserta>
-auto para_leer(Lleno lleno, Inserta inserta, ULONG fila)
+// go through the direct table, which the first of them builds. `crea(num)` makes an array of
+// `num` elements in full rows of `fila`; `inserta(array)` inserts at 0.
+template <typename Crea, typename Inserta> auto para_leer(Crea crea, Inserta inserta, ULONG fila)
 {
     return [=] {
-        ARRAY *array = lleno(64 * fila + 1)();
+        ARRAY *array = crea(64 * fila + 1);
         inserta(array);
         return array;
     };

@@ -6,33 +6,29 @@
 
 #include <string>
 
-namespace {
+namespace
+{
 
 // A row of 2048 bytes holds this many string pointers.
 constexpr ULONG FILA = 2048 / sizeof(void *);
 
-// The exports of one width, under the names that the string tests give them, and the growth.
+// The exports of one width, under the names that the string tests give them, and what the rows
+// add: the growth, the name of the string copy and a string as text.
 template <typename C> struct Cadenas;
 
-template <> struct Cadenas<char> {
+template <> struct Cadenas<char> : Estrecha {
     static constexpr const char *sufijo = "";
     static constexpr Clase clase = Clase::cadenas;
-    ARR_PRUEBA_FUNCIONES_CADENA()
     static constexpr auto aumenta = arr_AumentaTamanyoCADENA;
-    static constexpr auto copia_cadena = cad_copia_cadena;
     static constexpr const char *nombre_copia_cadena = "cad_copia_cadena";
-    static void destruye_cadena(char **cadena) { zarpstr_destruye(cadena); }
     static std::string texto(const char *cadena) { return cadena; }
 };
 
-template <> struct Cadenas<WCHAR> {
+template <> struct Cadenas<WCHAR> : Ancha {
     static constexpr const char *sufijo = "_u";
     static constexpr Clase clase = Clase::cadenas_anchas;
-    ARR_PRUEBA_FUNCIONES_CADENA(_u)
     static constexpr auto aumenta = arr_AumentaTamanyoCADENA_u;
-    static constexpr auto copia_cadena = widestr_fun_copia;
     static constexpr const char *nombre_copia_cadena = "widestr_fun_copia";
-    static void destruye_cadena(WCHAR **cadena) { widestr_nousar_destruye(cadena, __FILE__, __LINE__); }
     static std::string texto(const WCHAR *cadena) { return texto_ancho(cadena); }
 };
 
@@ -55,11 +51,24 @@ template <typename C> auto lleno(ULONG num)
     };
 }
 
+// An array whose reads by position build the direct table.
+template <typename C> auto leible()
+{
+    using S = Cadenas<C>;
+    return para_leer(
+        [](ULONG num) {
+            ARRAY *array = S::Crea(0);
+            S::AppendN(array, num, cadena<C>(3).c_str());
+            return array;
+        },
+        [](ARRAY *a) { S::Insertar(a, 0, cadena<C>(1).c_str()); }, FILA);
+}
+
 // The string an operation handed out, as text, released.
 template <typename C> void anota_y_libera(Caso &caso, C *cadena)
 {
     caso.anota(cadena == nullptr ? "NULL" : Cadenas<C>::texto(cadena));
-    Cadenas<C>::destruye_cadena(&cadena);
+    Cadenas<C>::libera(cadena);
 }
 
 template <typename C> int descendente(const C *a, const C *b)
@@ -75,46 +84,62 @@ template <typename C> void anyade_anchura(std::vector<Operacion> &filas)
     const auto nombre = [](const char *operacion) { return operacion + std::string(S::sufijo); };
     const Clase clase = S::clase;
     filas.push_back(crea(nombre("arr_CreaCADENA"), S::Crea, FILA + 1, clase));
-    filas.push_back(cambia(nombre("arr_AppendCADENA"), lleno<C>(FILA),
-                           [](ARRAY *a) { S::Append(a, cadena<C>(7).c_str()); }, clase));
+    filas.push_back(cambia(
+        nombre("arr_AppendCADENA"), lleno<C>(FILA),
+        [](ARRAY *a) { S::Append(a, cadena<C>(7).c_str()); }, clase));
     filas.push_back({nombre("arr_AppendCADENAOriginal"), [](Caso &caso) {
                          ARRAY *array = caso.guarda(lleno<C>(FILA)(), S::clase);
-                         C *propia = S::copia_cadena(cadena<C>(7).c_str());
+                         C *propia = S::copia(cadena<C>(7).c_str());
                          caso.llama([&] { S::AppendOriginal(array, &propia); });
                          caso.anota(propia == nullptr ? "taken" : "left");
                      }});
-    filas.push_back(cambia(nombre("arr_AppendNCADENAs"), lleno<C>(FILA - 1),
-                           [](ARRAY *a) { S::AppendN(a, 3, cadena<C>(7).c_str()); }, clase));
-    filas.push_back(cambia(nombre("arr_InsertarCADENA"), lleno<C>(FILA),
-                           [](ARRAY *a) { S::Insertar(a, FILA / 2, cadena<C>(7).c_str()); }, clase));
-    filas.push_back(cambia(nombre("arr_BorrarCADENA"),
-                           para_borrar([](ULONG num) { return lleno<C>(num); }, S::Borrar, FILA),
-                           [](ARRAY *a) { S::Borrar(a, 2 * FILA); }, clase));
-    filas.push_back(cambia(nombre("arr_SetCADENA"), lleno<C>(5),
-                           [](ARRAY *a) { S::Set(a, 2, cadena<C>(7).c_str()); }, clase));
-    filas.push_back(cambia(nombre("arr_QSortCADENA"), lleno<C>(100),
-                           [](ARRAY *a) { S::QSort(a, descendente<C>); }, clase));
-    filas.push_back(hace(nombre("arr_CopiaCADENA"), lleno<C>(FILA + 1), S::Copia, clase));
-    filas.push_back(une(nombre("arr_ConcatenaCADENA"), lleno<C>(FILA + 1), S::Concatena, clase));
-    filas.push_back(cambia(nombre("arr_AumentaTamanyoCADENA"), lleno<C>(10),
-                           [](ARRAY *a) { return S::aumenta(a, FILA + 1); }, clase));
-    filas.push_back(cambia(nombre("arr_ReduceTamanyoCADENA"), lleno<C>(2 * FILA + 1),
-                           [](ARRAY *a) { S::ReduceTamanyo(a, FILA / 2); }, clase));
+    filas.push_back(cambia(
+        nombre("arr_AppendNCADENAs"), lleno<C>(FILA - 1),
+        [](ARRAY *a) { S::AppendN(a, 3, cadena<C>(7).c_str()); }, clase));
+    filas.push_back(cambia(
+        nombre("arr_InsertarCADENA"), lleno<C>(FILA),
+        [](ARRAY *a) { S::Insertar(a, FILA / 2, cadena<C>(7).c_str()); }, clase));
+    filas.push_back(cambia(
+        nombre("arr_BorrarCADENA"),
+        para_borrar([](ULONG num) { return lleno<C>(num); }, S::Borrar, FILA),
+        [](ARRAY *a) { S::Borrar(a, 2 * FILA); }, clase));
+    filas.push_back(cambia(
+        nombre("arr_SetCADENA"), lleno<C>(5), [](ARRAY *a) { S::Set(a, 2, cadena<C>(7).c_str()); },
+        clase));
+    filas.push_back(cambia(
+        nombre("arr_QSortCADENA"), lleno<C>(100), [](ARRAY *a) { S::QSort(a, descendente<C>); },
+        clase));
+    filas.push_back(hace(nombre("arr_CopiaCADENA"), lleno<C>(5), S::Copia, clase));
+    filas.push_back(une(nombre("arr_ConcatenaCADENA"), lleno<C>(5), S::Concatena, clase));
+    filas.push_back(cambia(
+        nombre("arr_AumentaTamanyoCADENA"), lleno<C>(10),
+        [](ARRAY *a) { return S::aumenta(a, 20); }, clase));
+    filas.push_back(cambia(
+        nombre("arr_ReduceTamanyoCADENA"), lleno<C>(2 * FILA + 1),
+        [](ARRAY *a) { S::ReduceTamanyo(a, FILA / 2); }, clase));
     filas.push_back({nombre("arr_GetCopiaCADENA"), [](Caso &caso) {
                          ARRAY *array = caso.guarda(lleno<C>(5)(), S::clase);
                          anota_y_libera(caso, caso.llama([&] { return S::GetCopia(array, 3); }));
                      }});
-    filas.push_back({nombre("arr_cadena_de_referencias"), [](Caso &caso) {
-                         ARRAY *array = caso.guarda(lleno<C>(5)(), S::clase);
-                         anota_y_libera(caso, caso.llama([&] {
-                                            return S::Referencias(array, '(', ',', ')');
-                                        }));
+    filas.push_back(
+        {nombre("arr_cadena_de_referencias"), [](Caso &caso) {
+             ARRAY *array = caso.guarda(lleno<C>(5)(), S::clase);
+             anota_y_libera(caso, caso.llama([&] { return S::Referencias(array, '(', ',', ')'); }));
+         }});
+    filas.push_back({nombre("arr_GetCADENA"), [](Caso &caso) {
+                         ARRAY *array = caso.guarda(leible<C>()(), S::clase);
+                         caso.anota(S::texto(caso.llama([&] { return S::Get(array, 2 * FILA); })));
+                     }});
+    filas.push_back({nombre("arr_SetCADENAOriginal"), [](Caso &caso) {
+                         ARRAY *array = caso.guarda(leible<C>()(), S::clase);
+                         C *propia = S::copia(cadena<C>(7).c_str());
+                         caso.llama([&] { S::SetOriginal(array, 2 * FILA, &propia); });
+                         caso.anota(propia == nullptr ? "taken" : "left");
                      }});
     filas.push_back({S::nombre_copia_cadena, [](Caso &caso) {
                          const std::basic_string<C> original = cadena<C>(7);
-                         anota_y_libera(caso, caso.llama([&] {
-                                            return S::copia_cadena(original.c_str());
-                                        }));
+                         anota_y_libera(caso,
+                                        caso.llama([&] { return S::copia(original.c_str()); }));
                      }});
 }
 

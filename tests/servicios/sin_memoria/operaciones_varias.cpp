@@ -1,7 +1,8 @@
 // The rows of the bit arrays and of the shared-memory publishing of the debug module.
 #include "servicios/sin_memoria/operaciones.h"
 
-namespace {
+namespace
+{
 
 // A row of 2048 bytes holds this many bits.
 constexpr ULONG FILA = 2048 * 8;
@@ -43,7 +44,8 @@ std::vector<Operacion> operaciones_varias()
         crea("arr_CreaBIT", arr_CreaBIT, FILA + 1),
         cambia("arr_AppendBIT", bits(FILA), [](ARRAY *a) { arr_AppendBIT(a, CIERTO); }),
         hace("arr_CopiaBIT", bits(FILA + 1), arr_CopiaBIT),
-        cambia("arr_AumentaTamanyoBIT", bits(10), [](ARRAY *a) { arr_AumentaTamanyoBIT(a, FILA + 1); }),
+        cambia("arr_AumentaTamanyoBIT", bits(10),
+               [](ARRAY *a) { arr_AumentaTamanyoBIT(a, FILA + 1); }),
         cambia("arr_ReduceTamanyoBIT", bits(2 * FILA + 1),
                [](ARRAY *a) { arr_ReduceTamanyoBIT(a, FILA / 2); }),
         {"debugarr_ini_serializa",

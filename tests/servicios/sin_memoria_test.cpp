@@ -4,36 +4,18 @@
 // turn ends exactly as the run without failures, consistent and without a leak.
 #include "services/memoria.h"
 #include "services/sin_memoria.h"
+#include "servicios/sin_memoria/reserva.h"
 
 #include "arrays.h"
 #include "core/arrayprv.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 namespace
 {
-
-// A handler that frees a reserve block of its own, as an application would, and asks for a retry.
-struct Reserva {
-    void *bloque = std::malloc(1 << 16);
-    size_t llamadas = 0;
-    size_t bytes_pedidos = 0;
-    ~Reserva() { std::free(bloque); }
-};
-
-BOOL libera_reserva(size_t bytes, void *contexto)
-{
-    auto *reserva = static_cast<Reserva *>(contexto);
-    ++reserva->llamadas;
-    reserva->bytes_pedidos = bytes;
-    std::free(reserva->bloque);
-    reserva->bloque = nullptr;
-    return CIERTO;
-}
 
 BOOL declina(size_t, void *) { return FALSO; }
 
@@ -50,9 +32,6 @@ void libera_entero(void **entero)
     delete static_cast<int *>(*entero);
     *entero = nullptr;
 }
-
-// Counts the reports of the consistency check instead of printing them.
-void cuenta_informe(const arr_informe *, void *contexto) { ++*static_cast<size_t *>(contexto); }
 
 // Many operations over every kind of family, each request of which may be the one that fails: what
 // they leave, as text, and the reports of the full check of every array before it is destroyed.

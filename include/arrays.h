@@ -1,5 +1,6 @@
-/*
- * arrays.h: the whole public interface of libarrays, growable arrays of many element types
+/**
+ * @file arrays.h
+ * The whole public interface of libarrays, growable arrays of many element types
  * behind one opaque handle. Compiles as C99 and as C++17; every function has C linkage.
  *
  * Conventions shared by every function:
@@ -32,6 +33,9 @@
 #include <uchar.h>
 #endif
 
+/** @def ARRAYS_API
+ * Marks the functions of the library: exported from ARRAYS.DLL (imported by its users unless they
+ * define ARRAYS_STATIC, linking the static library), of default visibility in libarrays.so. */
 #if defined(_WIN32) && !defined(ARRAYS_STATIC) /* ARRAYS_STATIC: linked with the static library */
 #if defined(ARRAYS_BUILDING)
 #define ARRAYS_API __declspec(dllexport)
@@ -44,6 +48,8 @@
 #define ARRAYS_API
 #endif
 
+/** @def ARR_NOEXCEPT
+ * noexcept in C++, where no function of the library throws; nothing in C. */
 #ifdef __cplusplus
 #define ARR_NOEXCEPT noexcept
 extern "C" {
@@ -54,30 +60,33 @@ extern "C" {
 /* ---- Version ---------------------------------------------------------------------------- */
 
 /* The version of this header. Within 0.x a new minor version may change the interface. */
-#define ARRAYS_VERSION_MAJOR 0
-#define ARRAYS_VERSION_MINOR 1
-#define ARRAYS_VERSION_PATCH 0
+#define ARRAYS_VERSION_MAJOR 0 /**< The major version of this header. */
+#define ARRAYS_VERSION_MINOR 1 /**< The minor version of this header. */
+#define ARRAYS_VERSION_PATCH 0 /**< The patch level of this header. */
+/** The version of this header as one number: major * 10000 + minor * 100 + patch. */
 #define ARRAYS_VERSION_NUMBER                                                                     \
     (ARRAYS_VERSION_MAJOR * 10000 + ARRAYS_VERSION_MINOR * 100 + ARRAYS_VERSION_PATCH)
-#define ARRAYS_VERSION_STRING "0.1.0"
+#define ARRAYS_VERSION_STRING "0.1.0" /**< The version of this header as text. */
 
-/* The version of the library in use, as ARRAYS_VERSION_NUMBER: compare it with the header's to
- * catch a program run against another build of the library than it was compiled with. */
+/** The version of the library in use, as ARRAYS_VERSION_NUMBER.
+ * Compare it with the header's to catch a program run against another build of the library than
+ * the one it was compiled with.
+ * @return major * 10000 + minor * 100 + patch of the library loaded */
 ARRAYS_API unsigned arr_version(void) ARR_NOEXCEPT;
 
 /* ---- Types: the same widths on every platform ---------------------------------------- */
 
 /* The types of the interface under prefixed names, used in every prototype below. */
-typedef uint16_t arr_bool_t;
-typedef uint8_t arr_byte_t;
-typedef unsigned char arr_uchar_t;
-typedef int16_t arr_short_t;
-typedef uint16_t arr_ushort_t;
-typedef int32_t arr_long_t;
-typedef uint32_t arr_ulong_t;
-typedef int64_t arr_long64_t;
-typedef uint64_t arr_ulong64_t;
-typedef char16_t arr_wchar_t; /* one UTF-16 code unit; wide strings are zero-terminated UTF-16 */
+typedef uint16_t arr_bool_t;        /**< A truth value: FALSO (0) or any other value (CIERTO). */
+typedef uint8_t arr_byte_t;         /**< An unsigned byte. */
+typedef unsigned char arr_uchar_t;  /**< An unsigned character. */
+typedef int16_t arr_short_t;        /**< A signed 16-bit integer. */
+typedef uint16_t arr_ushort_t;      /**< An unsigned 16-bit integer. */
+typedef int32_t arr_long_t;         /**< A signed 32-bit integer. */
+typedef uint32_t arr_ulong_t;       /**< An unsigned 32-bit integer: positions and counts. */
+typedef int64_t arr_long64_t;       /**< A signed 64-bit integer. */
+typedef uint64_t arr_ulong64_t;     /**< An unsigned 64-bit integer. */
+typedef char16_t arr_wchar_t; /**< One UTF-16 code unit; wide strings are zero-terminated UTF-16. */
 
 /* The short names of the same types, which the documentation uses. They are left out when the
  * includer defines ARRAYS_NO_SHORT_TYPES, or has the Windows names already (<windows.h>, whose
@@ -85,108 +94,127 @@ typedef char16_t arr_wchar_t; /* one UTF-16 code unit; wide strings are zero-ter
  * kept, and the rest defined. */
 #if !defined(ARRAYS_NO_SHORT_TYPES) && !defined(_WINDEF_)
 #if !defined(XMD_H)
-typedef arr_bool_t BOOL;
-typedef arr_byte_t BYTE;
+typedef arr_bool_t BOOL; /**< The short name of arr_bool_t. */
+typedef arr_byte_t BYTE; /**< The short name of arr_byte_t. */
 #endif
-typedef arr_uchar_t UCHAR;
-typedef arr_short_t SHORT;
-typedef arr_ushort_t USHORT;
-typedef arr_long_t LONG;
-typedef arr_ulong_t ULONG;
+typedef arr_uchar_t UCHAR; /**< The short name of arr_uchar_t. */
+typedef arr_short_t SHORT; /**< The short name of arr_short_t. */
+typedef arr_ushort_t USHORT; /**< The short name of arr_ushort_t. */
+typedef arr_long_t LONG; /**< The short name of arr_long_t. */
+typedef arr_ulong_t ULONG; /**< The short name of arr_ulong_t. */
 #if !defined(LONG64) /* <X11/Xmd.h> defines it, empty, as a mark of 64-bit longs */
-typedef arr_long64_t LONG64;
+typedef arr_long64_t LONG64; /**< The short name of arr_long64_t. */
 #endif
-typedef arr_ulong64_t ULONG64;
-typedef arr_wchar_t WCHAR;
+typedef arr_ulong64_t ULONG64; /**< The short name of arr_ulong64_t. */
+typedef arr_wchar_t WCHAR; /**< The short name of arr_wchar_t. */
 #endif
 
-#define FALSO ((arr_bool_t)0)
-#define CIERTO ((arr_bool_t)1)
+#define FALSO ((arr_bool_t)0)  /**< False. */
+#define CIERTO ((arr_bool_t)1) /**< True, as the library writes it (any non-zero value reads true). */
 
-/* The position that means "not found" or "no such index". */
+/** The position that means "not found" or "no such index". */
 #define ARR_ULONG_MAX 0xFFFFFFFFu
 
-/* An array. The header record stays private; callers hold ARRAY * handles. */
+/** An array. The header record stays private; callers hold ARRAY * handles. */
 typedef struct ARRAY ARRAY;
 
-/* Element type tags, as stored in every array header. */
+/** Element type tags, as stored in every array header (the debug functions and
+ * arryprv_es_array_correcto give them out). */
 typedef enum tipo_elem_array {
-    elem_BIT_NO_USAR = 0,
-    elem_BYTE_NO_USAR = 1,
-    elem_BOOL_NO_USAR = 2,
-    elem_UCHAR_NO_USAR = 3,
-    elem_CHAR_NO_USAR = 4,
-    elem_USHORT_NO_USAR = 5,
-    elem_SHORT_NO_USAR = 6,
-    elem_ULONG_NO_USAR = 7,
-    elem_LONG_NO_USAR = 8,
-    elem_ULONG64_NO_USAR = 9,
-    elem_LONG64_NO_USAR = 10,
-    elem_DOUBLE_NO_USAR = 11,
-    elem_PUNTERO_NO_USAR = 12,
-    elem_CADENA_NO_USAR = 13,
-    elem_PUNTO2D_NO_USAR = 14,
-    elem_PUNTO2DX_NO_USAR = 15,
-    elem_PUNTO3D_NO_USAR = 16,
-    elem_antiguo_PUNTO3DX = 17, /* retired: no array has it, every check rejects it */
-    elem_CADENA_U_NO_USAR = 18
+    elem_BIT_NO_USAR = 0, /**< bits */
+    elem_BYTE_NO_USAR = 1, /**< BYTE */
+    elem_BOOL_NO_USAR = 2, /**< BOOL */
+    elem_UCHAR_NO_USAR = 3, /**< UChar */
+    elem_CHAR_NO_USAR = 4, /**< Char */
+    elem_USHORT_NO_USAR = 5, /**< UShort */
+    elem_SHORT_NO_USAR = 6, /**< Short */
+    elem_ULONG_NO_USAR = 7, /**< ULong */
+    elem_LONG_NO_USAR = 8, /**< Long */
+    elem_ULONG64_NO_USAR = 9, /**< ULong64 */
+    elem_LONG64_NO_USAR = 10, /**< Long64 */
+    elem_DOUBLE_NO_USAR = 11, /**< Double */
+    elem_PUNTERO_NO_USAR = 12, /**< typed pointers and structures */
+    elem_CADENA_NO_USAR = 13, /**< narrow strings (CADENA) */
+    elem_PUNTO2D_NO_USAR = 14, /**< 2D points */
+    elem_PUNTO2DX_NO_USAR = 15, /**< 2D points with private data */
+    elem_PUNTO3D_NO_USAR = 16, /**< 3D points */
+    elem_antiguo_PUNTO3DX = 17, /**< retired: no array has it, every check rejects it */
+    elem_CADENA_U_NO_USAR = 18 /**< wide strings (CADENA_u) */
 } tipo_elem_array;
 
-/* Results of an ordering comparator. Consumers test for exactly these values. */
+/** Results of an ordering comparator. Consumers test for exactly these values. */
 typedef enum comparac {
-    comparac_PRIMERO_MENOR = -1,
-    comparac_IGUALES = 0,
-    comparac_PRIMERO_MAYOR = 1
+    comparac_PRIMERO_MENOR = -1, /**< the first goes before the second */
+    comparac_IGUALES = 0,        /**< neither goes before the other */
+    comparac_PRIMERO_MAYOR = 1   /**< the first goes after the second */
 } comparac;
 
 /* ---- Reports --------------------------------------------------------------------------- */
 
+/** The kinds of report (arr_informe::clase). */
 enum {
-    ARR_INFORME_ERROR = 0,   /* a condition was false */
-    ARR_INFORME_ORIGEN = 1,  /* a condition was false; also names the caller's location */
-    ARR_INFORME_DEFAULT = 2  /* a per-type switch met an element type it does not handle */
+    ARR_INFORME_ERROR = 0,   /**< a condition was false */
+    ARR_INFORME_ORIGEN = 1,  /**< a condition was false; also names the caller's location */
+    ARR_INFORME_DEFAULT = 2  /**< a per-type switch met an element type it does not handle */
 };
 
+/** One report: a precondition that did not hold, handed to the report handler. */
 typedef struct arr_informe {
-    int clase;                    /* ARR_INFORME_ERROR, ARR_INFORME_ORIGEN, ARR_INFORME_DEFAULT */
-    const char *expresion;        /* UTF-8 text of the failed condition; "" for the default case */
-    const char *ubicacion;        /* reporting module, e.g. "arrayprv (ARRAYS.DLL)" */
-    arr_long_t linea;                   /* line of the check in that module */
-    const char *ubicacion_origen; /* ARR_INFORME_ORIGEN only, else NULL */
-    arr_long_t linea_origen;
+    int clase;                    /**< ARR_INFORME_ERROR, ARR_INFORME_ORIGEN, ARR_INFORME_DEFAULT */
+    const char *expresion;        /**< UTF-8 text of the failed condition; "" for the default case */
+    const char *ubicacion;        /**< reporting module, e.g. "arrayprv (ARRAYS.DLL)" */
+    arr_long_t linea;             /**< line of the check in that module */
+    const char *ubicacion_origen; /**< the caller's location, ARR_INFORME_ORIGEN only, else NULL */
+    arr_long_t linea_origen;      /**< the caller's line, ARR_INFORME_ORIGEN only, else 0 */
 } arr_informe;
 
+/** A report handler: called with each report (valid during the call only) and the contexto given
+ * to arr_set_manejador_informes. */
 typedef void (*arr_manejador_informes)(const arr_informe *informe, void *contexto);
 
-/* Installs the handler that every report goes to and returns the previous one; NULL restores
- * the default, which writes one line to standard error (and aborts afterwards when the
- * environment variable ARRAYS_ABORTAR exists). */
+/** Installs the handler that every report goes to.
+ * @param f the handler; NULL restores the default, which writes one line to standard error (and
+ *   aborts afterwards when the environment variable ARRAYS_ABORTAR exists)
+ * @param contexto handed to every call of f
+ * @return the previous handler */
 ARRAYS_API arr_manejador_informes arr_set_manejador_informes(arr_manejador_informes f,
                                                              void *contexto) ARR_NOEXCEPT;
 
-/* Out of memory. When the system has no block for the library, the handler installed here is
- * called with the bytes asked for: one that frees memory of its own and returns nonzero has the
- * request tried again; one that returns 0, or no handler, lets the library write
+/** An out-of-memory handler: called with the bytes the library could not get and the contexto
+ * given to arr_set_manejador_sin_memoria; non-zero asks for the request to be tried again. */
+typedef arr_bool_t (*arr_manejador_sin_memoria)(size_t bytes, void *contexto);
+/** Installs the handler called when the system has no block for the library.
+ * A handler that frees memory of its own and returns non-zero has the request tried again; one
+ * that returns 0, or no handler, lets the library write
  * "arrays: out of memory: no block of N bytes" to standard error and end the process (abort).
  * No operation ever goes on with a missing block. The handler may destroy arrays, but not call
- * the library on an array that an operation in progress is using. Returns the previous one. */
-typedef arr_bool_t (*arr_manejador_sin_memoria)(size_t bytes, void *contexto);
+ * the library on an array that an operation in progress is using.
+ * @param f the handler, or NULL for none
+ * @param contexto handed to every call of f
+ * @return the previous handler */
 ARRAYS_API arr_manejador_sin_memoria arr_set_manejador_sin_memoria(arr_manejador_sin_memoria f,
                                                                    void *contexto) ARR_NOEXCEPT;
 
-/* Number of reports made since the process started. */
+/** The number of reports made since the process started.
+ * @return the count, whatever handler took them */
 ARRAYS_API arr_ulong64_t arr_num_informes(void) ARR_NOEXCEPT;
 
 /* ---- Engine queries and switches --------------------------------------------------------- */
 
-/* TRUE when `array` is a live array of a type other than bits. Never reports. For a live
- * array (bit arrays included) fills the outputs that are not NULL: tag, element count (bits
- * for a bit array) and element size. */
+/** Tells whether `array` is a live array of a type other than bits, without reporting.
+ * For a live array (bit arrays included) fills the outputs that are not NULL.
+ * @param array any pointer
+ * @param tipo gets the element type tag (tipo_elem_array)
+ * @param num_elems gets the element count (bits for a bit array)
+ * @param size_elem gets the element size in bytes
+ * @return CIERTO for a live array that is not a bit array */
 ARRAYS_API arr_bool_t arryprv_es_array_correcto(const ARRAY *array, int32_t *tipo,
                                                 int32_t *num_elems,
                                                 uint64_t *size_elem) ARR_NOEXCEPT;
 
-/* Callbacks that change the array they are called for. While a traversal, a sort, a search, an
+/** Switches the lenient loop-guard check on or off for the whole process.
+ *
+ * Callbacks that change the array they are called for. While a traversal, a sort, a search, an
  * equality or a destruction calls back into the application (an action, a comparator, a
  * predicate, a release function), a call on the same array that would free it or change its
  * element count (append, insert, delete, grow, shrink, concatenation into it, destroy) is
@@ -196,18 +224,24 @@ ARRAYS_API arr_bool_t arryprv_es_array_correcto(const ARRAY *array, int32_t *tip
  * (sets, increments, initialise) are reported and carried out. The reports are the loop-guard
  * texts, e.g. "array->en_bucle == FALSO" or "(*array)->en_bucle_lectura == FALSO".
  *
- * Process-wide switch of the lenient loop-guard check (on only while it equals 1).
- * Returns the value stored. */
+ * This switch turns the lenient loop-guard check on (while it equals 1) or off.
+ * @param valor 1 to check, anything else not to
+ * @return the value stored */
 ARRAYS_API arr_bool_t arrayprv_set_comprobar_en_bucle(arr_bool_t valor) ARR_NOEXCEPT;
 
 /* ---- Rows ------------------------------------------------------------------------------ */
 
-/* The elements of row `fila` of any array, for iterations that pay one call per row instead of
- * one per element (the iterators of arrays.hpp): the address of the row's first element, and
- * its element count in *num_elems (when not NULL). Rows hold the elements in position order,
- * each row at least one, and each element in the layout of its type (a 2D point as x then y);
- * NULL and 0 past the last row. The address is valid until the array next changes. Reports
- * "(array) != NULL" and "array->mascara_debug == MASCARA_DEBUG" (NULL then). */
+/** The elements of row `fila` of any array, for iterations that pay one call per row instead of
+ * one per element (the iterators of arrays.hpp).
+ * Rows hold the elements in position order, each row at least one, and each element in the
+ * layout of its type (a 2D point as x then y).
+ * @param array the array
+ * @param fila the row, from 0
+ * @param num_elems gets the row's element count (0 past the last row); may be NULL
+ * @return the address of the row's first element, valid until the array next changes; NULL past
+ *   the last row or for a handle that is not a live array
+ * @par Reports
+ *   - "(array) != NULL" and "array->mascara_debug == MASCARA_DEBUG" (NULL then) */
 ARRAYS_API void *arr_Fila(const ARRAY *array, arr_ulong_t fila,
                           arr_ulong_t *num_elems) ARR_NOEXCEPT;
 
@@ -215,22 +249,33 @@ ARRAYS_API void *arr_Fila(const ARRAY *array, arr_ulong_t fila,
 
 /* Strings that callers hand over to an array (the ...Original operations) must come from these,
  * and strings the library hands out are released with them. */
+/** Copies a narrow string into memory of the library's.
+ * @param cadena the string to copy
+ * @return the copy, to be handed to an array or freed with zarpstr_destruye; NULL for NULL */
 ARRAYS_API char *cad_copia_cadena(const char *cadena) ARR_NOEXCEPT;
+/** Frees a narrow string made by the library and sets the caller's pointer to NULL.
+ * @param cadena the address of the string's pointer (a NULL address or string is left alone) */
 ARRAYS_API void zarpstr_destruye(char **cadena) ARR_NOEXCEPT;
+/** Copies a wide (UTF-16) string into memory of the library's.
+ * @param cadena the string to copy
+ * @return the copy, to be handed to an array or freed with widestr_nousar_destruye; NULL for NULL */
 ARRAYS_API arr_wchar_t *widestr_fun_copia(const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Frees a wide string made by the library and sets the caller's pointer to NULL.
+ * @param cadena the address of the string's pointer (a NULL address or string is left alone)
+ * @param ubicacion the caller's module (kept for the callers that pass it; not used)
+ * @param linea the caller's line (likewise) */
 ARRAYS_API void widestr_nousar_destruye(arr_wchar_t **cadena, const char *ubicacion,
                                         arr_long_t linea) ARR_NOEXCEPT;
 
 /* ---- Scalar families ------------------------------------------------------------------- */
 
 /*
- * One line per scalar family: its word in the export names, its C value type, its element
- * type tag, how its values compare (ARR_BOOLEANO: always exactly, no predicates; ARR_ENTERO: an
- * optional predicate in searches, exact equality of arrays; ARR_REAL: a predicate required in
- * searches and in equality of arrays), and which of the optional operations it has: AppendN,
- * AumentaTamanyo, ReduceTamanyo, Sumar, Sumatorio and the traversal arr_nousar_Recorre (ARR_SI /
- * ARR_NO; Sumar's column names the type of its delta, ARR_DELTA_SHORT, ARR_DELTA_LONG or
- * ARR_DELTA_LONG64). The gaps are deliberate. For a family F of value type T:
+ * Eleven families of plain values, each declared in full below: BOOL compares always exactly
+ * (no predicates); the integer families take an optional predicate in searches and compare arrays
+ * exactly; Double requires a predicate in searches and in the equality of arrays. Not every
+ * family has every optional operation (AppendN, AumentaTamanyo, ReduceTamanyo, Sumar, Sumatorio,
+ * the traversal arr_nousar_Recorre): the gaps are deliberate. In short, for a family F of value
+ * type T:
  *
  *   ARRAY *arr_CreaF(ULONG n)                    new array of n zero elements
  *   void   arr_AppendF(ARRAY *a, T v)            append v
@@ -264,91 +309,1837 @@ ARRAYS_API void widestr_nousar_destruye(arr_wchar_t **cadena, const char *ubicac
  *   void   arr_AumentaTamanyoF(ARRAY *a, ULONG n)   grow to n elements (new ones are zero)
  *   void   arr_ReduceTamanyoF(ARRAY *a, ULONG n)    shrink to n elements
  */
-#define ARR_SI(...) __VA_ARGS__
-#define ARR_NO(...)
+/* @generado escalares: tools/genera_interfaz.py writes what follows from tools/familias.py */
+/** @defgroup familia_BOOL BOOL arrays
+ * Arrays of booleans (16-bit) (arr_bool_t).
+ * @{ */
+/** Action of arr_nousar_RecorreBOOL: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_BOOL)(arr_bool_t *elemento, void *datos);
+/** Equality of two BOOL values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_BOOL)(arr_bool_t a, arr_bool_t b);
+/** Order of arr_QSortBOOL: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_BOOL)(arr_bool_t a, arr_bool_t b);
+/** Creates an array of booleans (16-bit) holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeBOOL */
+ARRAYS_API ARRAY *arr_CreaBOOL(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeBOOL(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsBOOL(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendBOOL(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
+/** Appends valor num_veces times.
+ * @param array the array
+ * @param num_veces how many times
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "num_veces > 1" for a count below 2 (then appends it that many times)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendNBOOLs(ARRAY *array, arr_ulong_t num_veces,
+                                 arr_bool_t valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarBOOL(ARRAY *array, arr_ulong_t pos, arr_bool_t valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarBOOL(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_bool_t arr_GetBOOL(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetBOOL(ARRAY *array, arr_ulong_t pos, arr_bool_t valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaBOOL(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarBOOL(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoBOOL(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteBOOL(ARRAY *array, arr_bool_t valor,
+                                     arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoBOOL(ARRAY *array, arr_bool_t valor,
+                                          arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortBOOL(ARRAY *array, arr_orden_BOOL comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesBOOL(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaBOOL(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaBOOL(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Grows the array to nuevo_tamanyo elements; the new ones are zero (one function under every
+ * family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoBOOL(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Shrinks the array to its first nuevo_tamanyo elements (one function under every family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoBOOL(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Calls accion for every element in position order.
+ * The action may change the element in place; calls that would free the array or change its count
+ * are refused while it runs.
+ * @param array the array
+ * @param accion called with each element's address and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
+ *     running */
+ARRAYS_API void arr_nousar_RecorreBOOL(ARRAY *array, arr_accion_BOOL accion, void *datos,
+                                       const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** @} */
 
-/* Sumar's column applied to a generator M and its arguments: M(delta type, arguments...). */
-#define ARR_DELTA_SHORT(M, ...) M(arr_short_t, __VA_ARGS__)
-#define ARR_DELTA_LONG(M, ...) M(arr_long_t, __VA_ARGS__)
-#define ARR_DELTA_LONG64(M, ...) M(arr_long64_t, __VA_ARGS__)
+/** @defgroup familia_BYTE BYTE arrays
+ * Arrays of unsigned bytes (arr_byte_t).
+ * @{ */
+/** Action of arr_nousar_RecorreBYTE: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_BYTE)(arr_byte_t *elemento, void *datos);
+/** Equality of two BYTE values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_BYTE)(arr_byte_t a, arr_byte_t b);
+/** Order of arr_QSortBYTE: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_BYTE)(arr_byte_t a, arr_byte_t b);
+/** Creates an array of unsigned bytes holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeBYTE */
+ARRAYS_API ARRAY *arr_CreaBYTE(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeBYTE(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsBYTE(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendBYTE(ARRAY *array, arr_byte_t valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarBYTE(ARRAY *array, arr_ulong_t pos, arr_byte_t valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarBYTE(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_byte_t arr_GetBYTE(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetBYTE(ARRAY *array, arr_ulong_t pos, arr_byte_t valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaBYTE(ARRAY *array, arr_byte_t valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarBYTE(ARRAY *array, arr_byte_t valor,
+                                      arr_igualdad_BYTE igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoBYTE(ARRAY *array, arr_byte_t valor,
+                                           arr_igualdad_BYTE igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteBYTE(ARRAY *array, arr_byte_t valor, arr_igualdad_BYTE igualdad,
+                                     arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoBYTE(ARRAY *array, arr_byte_t valor,
+                                          arr_igualdad_BYTE igualdad,
+                                          arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortBYTE(ARRAY *array, arr_orden_BYTE comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesBYTE(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaBYTE(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaBYTE(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Grows the array to nuevo_tamanyo elements; the new ones are zero (one function under every
+ * family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoBYTE(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Shrinks the array to its first nuevo_tamanyo elements (one function under every family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoBYTE(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** @} */
 
-/* The predicate parameter of searches and of array equality, by how a family compares. */
-#define ARR_BUSCA_CON_ARR_BOOLEANO(F)
-#define ARR_BUSCA_CON_ARR_ENTERO(F) , arr_igualdad_##F igualdad
-#define ARR_BUSCA_CON_ARR_REAL(F) , arr_igualdad_##F igualdad
-#define ARR_IGUALES_CON_ARR_BOOLEANO(F)
-#define ARR_IGUALES_CON_ARR_ENTERO(F)
-#define ARR_IGUALES_CON_ARR_REAL(F) , arr_igualdad_##F igualdad
+/** @defgroup familia_UChar UChar arrays
+ * Arrays of unsigned characters (arr_uchar_t).
+ * @{ */
+/** Action of arr_nousar_RecorreUChar: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_UChar)(arr_uchar_t *elemento, void *datos);
+/** Equality of two UChar values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_UChar)(arr_uchar_t a, arr_uchar_t b);
+/** Order of arr_QSortUChar: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_UChar)(arr_uchar_t a, arr_uchar_t b);
+/** Creates an array of unsigned characters holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeUChar */
+ARRAYS_API ARRAY *arr_CreaUChar(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeUChar(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsUChar(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendUChar(ARRAY *array, arr_uchar_t valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarUChar(ARRAY *array, arr_ulong_t pos, arr_uchar_t valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarUChar(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_uchar_t arr_GetUChar(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetUChar(ARRAY *array, arr_ulong_t pos, arr_uchar_t valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaUChar(ARRAY *array, arr_uchar_t valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarUChar(ARRAY *array, arr_uchar_t valor,
+                                       arr_igualdad_UChar igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoUChar(ARRAY *array, arr_uchar_t valor,
+                                            arr_igualdad_UChar igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteUChar(ARRAY *array, arr_uchar_t valor, arr_igualdad_UChar igualdad,
+                                      arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoUChar(ARRAY *array, arr_uchar_t valor,
+                                           arr_igualdad_UChar igualdad,
+                                           arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortUChar(ARRAY *array, arr_orden_UChar comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesUChar(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaUChar(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaUChar(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Shrinks the array to its first nuevo_tamanyo elements (one function under every family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoUChar(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** @} */
 
-/*  X(family, value type, tag, compares, AppendN, AumentaTamanyo, ReduceTamanyo,
- *    Sumar (its delta type), Sumatorio, arr_nousar_Recorre) */
-#define ARR_FAMILIAS_ESCALARES(X)                                                                 \
-    X(BOOL, arr_bool_t, elem_BOOL_NO_USAR, ARR_BOOLEANO, ARR_SI, ARR_SI, ARR_SI,                  \
-      ARR_NO, ARR_NO, ARR_SI)                                                                     \
-    X(BYTE, arr_byte_t, elem_BYTE_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
-      ARR_NO, ARR_NO, ARR_NO)                                                                     \
-    X(UChar, arr_uchar_t, elem_UCHAR_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_SI,                 \
-      ARR_NO, ARR_NO, ARR_NO)                                                                     \
-    X(Char, char, elem_CHAR_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_NO,                          \
-      ARR_NO, ARR_NO, ARR_SI)                                                                     \
-    X(Short, arr_short_t, elem_SHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_NO, ARR_NO,                 \
-      ARR_NO, ARR_NO, ARR_NO)                                                                     \
-    X(UShort, arr_ushort_t, elem_USHORT_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,              \
-      ARR_DELTA_SHORT, ARR_NO, ARR_SI)                                                            \
-    X(Long, arr_long_t, elem_LONG_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,                    \
-      ARR_DELTA_LONG, ARR_NO, ARR_NO)                                                             \
-    X(ULong, arr_ulong_t, elem_ULONG_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,                 \
-      ARR_DELTA_LONG, ARR_SI, ARR_SI)                                                             \
-    X(Long64, arr_long64_t, elem_LONG64_NO_USAR, ARR_ENTERO, ARR_NO, ARR_SI, ARR_SI,              \
-      ARR_DELTA_LONG64, ARR_NO, ARR_NO)                                                           \
-    X(ULong64, arr_ulong64_t, elem_ULONG64_NO_USAR, ARR_ENTERO, ARR_SI, ARR_SI, ARR_SI,           \
-      ARR_DELTA_LONG64, ARR_SI, ARR_SI)                                                           \
-    X(Double, double, elem_DOUBLE_NO_USAR, ARR_REAL, ARR_SI, ARR_SI, ARR_SI,                      \
-      ARR_NO, ARR_SI, ARR_SI)
+/** @defgroup familia_Char Char arrays
+ * Arrays of characters (ordered as signed) (char).
+ * @{ */
+/** Action of arr_nousar_RecorreChar: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_Char)(char *elemento, void *datos);
+/** Equality of two Char values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_Char)(char a, char b);
+/** Order of arr_QSortChar: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_Char)(char a, char b);
+/** Creates an array of characters (ordered as signed) holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeChar */
+ARRAYS_API ARRAY *arr_CreaChar(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeChar(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsChar(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendChar(ARRAY *array, char valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarChar(ARRAY *array, arr_ulong_t pos, char valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarChar(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API char arr_GetChar(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetChar(ARRAY *array, arr_ulong_t pos, char valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaChar(ARRAY *array, char valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarChar(ARRAY *array, char valor,
+                                      arr_igualdad_Char igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoChar(ARRAY *array, char valor,
+                                           arr_igualdad_Char igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteChar(ARRAY *array, char valor, arr_igualdad_Char igualdad,
+                                     arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoChar(ARRAY *array, char valor, arr_igualdad_Char igualdad,
+                                          arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortChar(ARRAY *array, arr_orden_Char comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesChar(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaChar(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaChar(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Calls accion for every element in position order.
+ * The action may change the element in place; calls that would free the array or change its count
+ * are refused while it runs.
+ * @param array the array
+ * @param accion called with each element's address and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
+ *     running */
+ARRAYS_API void arr_nousar_RecorreChar(ARRAY *array, arr_accion_Char accion, void *datos,
+                                       const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** @} */
 
-#define ARR_DECLARA_SUMAR(D, F)                                                                   \
-    ARRAYS_API void arr_Sumar##F(ARRAY *array, arr_ulong_t pos, D delta) ARR_NOEXCEPT;
+/** @defgroup familia_Short Short arrays
+ * Arrays of signed 16-bit integers (arr_short_t).
+ * @{ */
+/** Action of arr_nousar_RecorreShort: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_Short)(arr_short_t *elemento, void *datos);
+/** Equality of two Short values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_Short)(arr_short_t a, arr_short_t b);
+/** Order of arr_QSortShort: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_Short)(arr_short_t a, arr_short_t b);
+/** Creates an array of signed 16-bit integers holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeShort */
+ARRAYS_API ARRAY *arr_CreaShort(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeShort(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsShort(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendShort(ARRAY *array, arr_short_t valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarShort(ARRAY *array, arr_ulong_t pos, arr_short_t valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarShort(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_short_t arr_GetShort(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetShort(ARRAY *array, arr_ulong_t pos, arr_short_t valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaShort(ARRAY *array, arr_short_t valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarShort(ARRAY *array, arr_short_t valor,
+                                       arr_igualdad_Short igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoShort(ARRAY *array, arr_short_t valor,
+                                            arr_igualdad_Short igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteShort(ARRAY *array, arr_short_t valor, arr_igualdad_Short igualdad,
+                                      arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoShort(ARRAY *array, arr_short_t valor,
+                                           arr_igualdad_Short igualdad,
+                                           arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortShort(ARRAY *array, arr_orden_Short comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesShort(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaShort(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaShort(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** @} */
 
-#define ARR_DECLARA_FAMILIA_ESCALAR(F, T, TAG, COMPARA, APPENDN, AUMENTA, REDUCE, SUMAR,          \
-                                    SUMATORIO, RECORRE)                                           \
-    typedef arr_bool_t (*arr_accion_##F)(T * elemento, void *datos);                              \
-    typedef arr_bool_t (*arr_igualdad_##F)(T a, T b);                                             \
-    typedef int (*arr_orden_##F)(T a, T b);                                                       \
-    ARRAYS_API ARRAY *arr_Crea##F(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;                      \
-    ARRAYS_API void arr_Destruye##F(ARRAY **array) ARR_NOEXCEPT;                                  \
-    ARRAYS_API arr_ulong_t arr_NumElems##F(const ARRAY *array) ARR_NOEXCEPT;                      \
-    ARRAYS_API void arr_Append##F(ARRAY *array, T valor) ARR_NOEXCEPT;                            \
-    APPENDN(ARRAYS_API void arr_AppendN##F##s(ARRAY *array, arr_ulong_t num_veces,                \
-            T valor) ARR_NOEXCEPT;)                                                               \
-    ARRAYS_API void arr_Insertar##F(ARRAY *array, arr_ulong_t pos, T valor) ARR_NOEXCEPT;         \
-    ARRAYS_API void arr_Borrar##F(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;                    \
-    ARRAYS_API T arr_Get##F(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;                          \
-    ARRAYS_API void arr_Set##F(ARRAY *array, arr_ulong_t pos, T valor) ARR_NOEXCEPT;              \
-    ARRAYS_API void arr_Inicializa##F(ARRAY *array, T valor) ARR_NOEXCEPT;                        \
-    ARRAYS_API arr_ulong_t arr_Buscar##F(ARRAY *array,                                            \
-                                         T valor ARR_BUSCA_CON_##COMPARA(F)) ARR_NOEXCEPT;        \
-    ARRAYS_API arr_ulong_t arr_BuscarUnico##F(ARRAY *array,                                       \
-                                              T valor ARR_BUSCA_CON_##COMPARA(F)) ARR_NOEXCEPT;   \
-    ARRAYS_API arr_bool_t arr_Existe##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),         \
-                                        arr_ulong_t *posicion) ARR_NOEXCEPT;                      \
-    ARRAYS_API arr_bool_t arr_ExisteUnico##F(ARRAY *array, T valor ARR_BUSCA_CON_##COMPARA(F),    \
-                                             arr_ulong_t *posicion) ARR_NOEXCEPT;                 \
-    ARRAYS_API void arr_QSort##F(ARRAY *array, arr_orden_##F comparador) ARR_NOEXCEPT;            \
-    ARRAYS_API arr_bool_t arr_SonIguales##F(ARRAY *array1,                                        \
-                                            ARRAY *array2 ARR_IGUALES_CON_##COMPARA(F)) ARR_NOEXCEPT; \
-    ARRAYS_API ARRAY *arr_Copia##F(const ARRAY *array) ARR_NOEXCEPT;                              \
-    ARRAYS_API void arr_Concatena##F(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;                 \
-    AUMENTA(ARRAYS_API void arr_AumentaTamanyo##F(ARRAY *array,                                   \
-            arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;)                                             \
-    REDUCE(ARRAYS_API void arr_ReduceTamanyo##F(ARRAY *array,                                     \
-           arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;)                                              \
-    SUMAR(ARR_DECLARA_SUMAR, F)                                                                   \
-    SUMATORIO(ARRAYS_API T arr_Sumatorio##F(const ARRAY *array) ARR_NOEXCEPT;)                    \
-    RECORRE(ARRAYS_API void arr_nousar_Recorre##F(ARRAY *array, arr_accion_##F accion,            \
-            void *datos,                                                                          \
-            const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;)
+/** @defgroup familia_UShort UShort arrays
+ * Arrays of unsigned 16-bit integers (arr_ushort_t).
+ * @{ */
+/** Action of arr_nousar_RecorreUShort: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_UShort)(arr_ushort_t *elemento, void *datos);
+/** Equality of two UShort values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_UShort)(arr_ushort_t a, arr_ushort_t b);
+/** Order of arr_QSortUShort: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_UShort)(arr_ushort_t a, arr_ushort_t b);
+/** Creates an array of unsigned 16-bit integers holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeUShort */
+ARRAYS_API ARRAY *arr_CreaUShort(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeUShort(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsUShort(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendUShort(ARRAY *array, arr_ushort_t valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarUShort(ARRAY *array, arr_ulong_t pos, arr_ushort_t valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarUShort(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_ushort_t arr_GetUShort(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetUShort(ARRAY *array, arr_ulong_t pos, arr_ushort_t valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaUShort(ARRAY *array, arr_ushort_t valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarUShort(ARRAY *array, arr_ushort_t valor,
+                                        arr_igualdad_UShort igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoUShort(ARRAY *array, arr_ushort_t valor,
+                                             arr_igualdad_UShort igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteUShort(ARRAY *array, arr_ushort_t valor,
+                                       arr_igualdad_UShort igualdad,
+                                       arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoUShort(ARRAY *array, arr_ushort_t valor,
+                                            arr_igualdad_UShort igualdad,
+                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortUShort(ARRAY *array, arr_orden_UShort comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesUShort(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaUShort(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaUShort(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Grows the array to nuevo_tamanyo elements; the new ones are zero (one function under every
+ * family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoUShort(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Shrinks the array to its first nuevo_tamanyo elements (one function under every family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoUShort(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Adds delta to the element at pos, wrapping in the element's width.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param delta what is added
+ * @par Reports, besides the checks of the handle
+ *   - a sum not strictly inside the type's range, before it is stored
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API void arr_SumarUShort(ARRAY *array, arr_ulong_t pos, arr_short_t delta) ARR_NOEXCEPT;
+/** Calls accion for every element in position order.
+ * The action may change the element in place; calls that would free the array or change its count
+ * are refused while it runs.
+ * @param array the array
+ * @param accion called with each element's address and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
+ *     running */
+ARRAYS_API void arr_nousar_RecorreUShort(ARRAY *array, arr_accion_UShort accion, void *datos,
+                                         const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** @} */
 
-ARR_FAMILIAS_ESCALARES(ARR_DECLARA_FAMILIA_ESCALAR)
+/** @defgroup familia_Long Long arrays
+ * Arrays of signed 32-bit integers (arr_long_t).
+ * @{ */
+/** Action of arr_nousar_RecorreLong: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_Long)(arr_long_t *elemento, void *datos);
+/** Equality of two Long values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_Long)(arr_long_t a, arr_long_t b);
+/** Order of arr_QSortLong: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_Long)(arr_long_t a, arr_long_t b);
+/** Creates an array of signed 32-bit integers holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeLong */
+ARRAYS_API ARRAY *arr_CreaLong(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeLong(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsLong(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendLong(ARRAY *array, arr_long_t valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarLong(ARRAY *array, arr_ulong_t pos, arr_long_t valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarLong(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_long_t arr_GetLong(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetLong(ARRAY *array, arr_ulong_t pos, arr_long_t valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaLong(ARRAY *array, arr_long_t valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarLong(ARRAY *array, arr_long_t valor,
+                                      arr_igualdad_Long igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoLong(ARRAY *array, arr_long_t valor,
+                                           arr_igualdad_Long igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteLong(ARRAY *array, arr_long_t valor, arr_igualdad_Long igualdad,
+                                     arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoLong(ARRAY *array, arr_long_t valor,
+                                          arr_igualdad_Long igualdad,
+                                          arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortLong(ARRAY *array, arr_orden_Long comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesLong(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaLong(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaLong(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Grows the array to nuevo_tamanyo elements; the new ones are zero (one function under every
+ * family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoLong(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Shrinks the array to its first nuevo_tamanyo elements (one function under every family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoLong(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Adds delta to the element at pos, wrapping in the element's width.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param delta what is added
+ * @par Reports, besides the checks of the handle
+ *   - a sum not strictly inside the type's range, before it is stored
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API void arr_SumarLong(ARRAY *array, arr_ulong_t pos, arr_long_t delta) ARR_NOEXCEPT;
+/** @} */
+
+/** @defgroup familia_ULong ULong arrays
+ * Arrays of unsigned 32-bit integers (arr_ulong_t).
+ * @{ */
+/** Action of arr_nousar_RecorreULong: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_ULong)(arr_ulong_t *elemento, void *datos);
+/** Equality of two ULong values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_ULong)(arr_ulong_t a, arr_ulong_t b);
+/** Order of arr_QSortULong: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_ULong)(arr_ulong_t a, arr_ulong_t b);
+/** Creates an array of unsigned 32-bit integers holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeULong */
+ARRAYS_API ARRAY *arr_CreaULong(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeULong(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsULong(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendULong(ARRAY *array, arr_ulong_t valor) ARR_NOEXCEPT;
+/** Appends valor num_veces times.
+ * @param array the array
+ * @param num_veces how many times
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "num_veces > 0" for 0 (then appends it that many times)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendNULongs(ARRAY *array, arr_ulong_t num_veces,
+                                  arr_ulong_t valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarULong(ARRAY *array, arr_ulong_t pos, arr_ulong_t valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarULong(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_ulong_t arr_GetULong(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetULong(ARRAY *array, arr_ulong_t pos, arr_ulong_t valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaULong(ARRAY *array, arr_ulong_t valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarULong(ARRAY *array, arr_ulong_t valor,
+                                       arr_igualdad_ULong igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoULong(ARRAY *array, arr_ulong_t valor,
+                                            arr_igualdad_ULong igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteULong(ARRAY *array, arr_ulong_t valor, arr_igualdad_ULong igualdad,
+                                      arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoULong(ARRAY *array, arr_ulong_t valor,
+                                           arr_igualdad_ULong igualdad,
+                                           arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortULong(ARRAY *array, arr_orden_ULong comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesULong(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaULong(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaULong(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Grows the array to nuevo_tamanyo elements; the new ones are zero (one function under every
+ * family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoULong(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Shrinks the array to its first nuevo_tamanyo elements (one function under every family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoULong(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Adds delta to the element at pos, wrapping in the element's width.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param delta what is added
+ * @par Reports, besides the checks of the handle
+ *   - a sum not strictly inside the type's range, before it is stored
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API void arr_SumarULong(ARRAY *array, arr_ulong_t pos, arr_long_t delta) ARR_NOEXCEPT;
+/** Adds up the elements.
+ * @param array the array
+ * @return their sum, modulo 2 to the element's width in bits; 0 for an empty array */
+ARRAYS_API arr_ulong_t arr_SumatorioULong(const ARRAY *array) ARR_NOEXCEPT;
+/** Calls accion for every element in position order.
+ * The action may change the element in place; calls that would free the array or change its count
+ * are refused while it runs.
+ * @param array the array
+ * @param accion called with each element's address and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
+ *     running */
+ARRAYS_API void arr_nousar_RecorreULong(ARRAY *array, arr_accion_ULong accion, void *datos,
+                                        const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** @} */
+
+/** @defgroup familia_Long64 Long64 arrays
+ * Arrays of signed 64-bit integers (arr_long64_t).
+ * @{ */
+/** Action of arr_nousar_RecorreLong64: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_Long64)(arr_long64_t *elemento, void *datos);
+/** Equality of two Long64 values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_Long64)(arr_long64_t a, arr_long64_t b);
+/** Order of arr_QSortLong64: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_Long64)(arr_long64_t a, arr_long64_t b);
+/** Creates an array of signed 64-bit integers holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeLong64 */
+ARRAYS_API ARRAY *arr_CreaLong64(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeLong64(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsLong64(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendLong64(ARRAY *array, arr_long64_t valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarLong64(ARRAY *array, arr_ulong_t pos, arr_long64_t valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarLong64(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_long64_t arr_GetLong64(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetLong64(ARRAY *array, arr_ulong_t pos, arr_long64_t valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaLong64(ARRAY *array, arr_long64_t valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarLong64(ARRAY *array, arr_long64_t valor,
+                                        arr_igualdad_Long64 igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoLong64(ARRAY *array, arr_long64_t valor,
+                                             arr_igualdad_Long64 igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteLong64(ARRAY *array, arr_long64_t valor,
+                                       arr_igualdad_Long64 igualdad,
+                                       arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoLong64(ARRAY *array, arr_long64_t valor,
+                                            arr_igualdad_Long64 igualdad,
+                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortLong64(ARRAY *array, arr_orden_Long64 comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesLong64(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaLong64(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaLong64(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Grows the array to nuevo_tamanyo elements; the new ones are zero (one function under every
+ * family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoLong64(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Shrinks the array to its first nuevo_tamanyo elements (one function under every family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoLong64(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Adds delta to the element at pos, wrapping in the element's width.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param delta what is added
+ * @par Reports, besides the checks of the handle
+ *   - a sum not strictly inside the type's range, before it is stored
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API void arr_SumarLong64(ARRAY *array, arr_ulong_t pos, arr_long64_t delta) ARR_NOEXCEPT;
+/** @} */
+
+/** @defgroup familia_ULong64 ULong64 arrays
+ * Arrays of unsigned 64-bit integers (arr_ulong64_t).
+ * @{ */
+/** Action of arr_nousar_RecorreULong64: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_ULong64)(arr_ulong64_t *elemento, void *datos);
+/** Equality of two ULong64 values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_ULong64)(arr_ulong64_t a, arr_ulong64_t b);
+/** Order of arr_QSortULong64: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR.
+ */
+typedef int (*arr_orden_ULong64)(arr_ulong64_t a, arr_ulong64_t b);
+/** Creates an array of unsigned 64-bit integers holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeULong64 */
+ARRAYS_API ARRAY *arr_CreaULong64(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeULong64(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsULong64(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendULong64(ARRAY *array, arr_ulong64_t valor) ARR_NOEXCEPT;
+/** Appends valor num_veces times.
+ * @param array the array
+ * @param num_veces how many times
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "num_veces > 0" for 0 (then appends it that many times)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendNULong64s(ARRAY *array, arr_ulong_t num_veces,
+                                    arr_ulong64_t valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarULong64(ARRAY *array, arr_ulong_t pos,
+                                    arr_ulong64_t valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarULong64(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_ulong64_t arr_GetULong64(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetULong64(ARRAY *array, arr_ulong_t pos, arr_ulong64_t valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaULong64(ARRAY *array, arr_ulong64_t valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarULong64(ARRAY *array, arr_ulong64_t valor,
+                                         arr_igualdad_ULong64 igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoULong64(ARRAY *array, arr_ulong64_t valor,
+                                              arr_igualdad_ULong64 igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteULong64(ARRAY *array, arr_ulong64_t valor,
+                                        arr_igualdad_ULong64 igualdad,
+                                        arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoULong64(ARRAY *array, arr_ulong64_t valor,
+                                             arr_igualdad_ULong64 igualdad,
+                                             arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortULong64(ARRAY *array, arr_orden_ULong64 comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesULong64(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaULong64(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaULong64(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Grows the array to nuevo_tamanyo elements; the new ones are zero (one function under every
+ * family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoULong64(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Shrinks the array to its first nuevo_tamanyo elements (one function under every family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoULong64(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Adds delta to the element at pos, wrapping in the element's width.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param delta what is added
+ * @par Reports, besides the checks of the handle
+ *   - a sum not strictly inside the type's range, before it is stored
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API void arr_SumarULong64(ARRAY *array, arr_ulong_t pos, arr_long64_t delta) ARR_NOEXCEPT;
+/** Adds up the elements.
+ * @param array the array
+ * @return their sum, modulo 2 to the element's width in bits; 0 for an empty array */
+ARRAYS_API arr_ulong64_t arr_SumatorioULong64(const ARRAY *array) ARR_NOEXCEPT;
+/** Calls accion for every element in position order.
+ * The action may change the element in place; calls that would free the array or change its count
+ * are refused while it runs.
+ * @param array the array
+ * @param accion called with each element's address and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
+ *     running */
+ARRAYS_API void arr_nousar_RecorreULong64(ARRAY *array, arr_accion_ULong64 accion, void *datos,
+                                          const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** @} */
+
+/** @defgroup familia_Double Double arrays
+ * Arrays of doubles (double).
+ * @{ */
+/** Action of arr_nousar_RecorreDouble: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_Double)(double *elemento, void *datos);
+/** Equality of two Double values in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_Double)(double a, double b);
+/** Order of arr_QSortDouble: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_Double)(double a, double b);
+/** Creates an array of doubles holding tamanyo_inicial zero elements.
+ * @param tamanyo_inicial how many elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeDouble */
+ARRAYS_API ARRAY *arr_CreaDouble(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Destroys the array (any family's: one function under every family's name).
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeDouble(ARRAY **array) ARR_NOEXCEPT;
+/** The number of elements of the array (one function under every family's name).
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsDouble(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends valor after the last element.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendDouble(ARRAY *array, double valor) ARR_NOEXCEPT;
+/** Appends valor num_veces times.
+ * @param array the array
+ * @param num_veces how many times
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "num_veces > 1" for a count below 2 (then appends it that many times)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendNDoubles(ARRAY *array, arr_ulong_t num_veces, double valor) ARR_NOEXCEPT;
+/** Inserts valor before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarDouble(ARRAY *array, arr_ulong_t pos, double valor) ARR_NOEXCEPT;
+/** Deletes the element at pos; the later ones move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarDouble(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API double arr_GetDouble(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Overwrites the element at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_SetDouble(ARRAY *array, arr_ulong_t pos, double valor) ARR_NOEXCEPT;
+/** Sets every element to valor.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arr_InicializaDouble(ARRAY *array, double valor) ARR_NOEXCEPT;
+/** Finds the first element equal to valor.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarDouble(ARRAY *array, double valor,
+                                        arr_igualdad_Double igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicoDouble(ARRAY *array, double valor,
+                                             arr_igualdad_Double igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, and where the first one is.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteDouble(ARRAY *array, double valor, arr_igualdad_Double igualdad,
+                                       arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals valor, which should be the only one.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicoDouble(ARRAY *array, double valor,
+                                            arr_igualdad_Double igualdad,
+                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * With a comparator, its calls are exactly those of the documented algorithm; with NULL only the
+ * final order is promised.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortDouble(ARRAY *array, arr_orden_Double comparador) ARR_NOEXCEPT;
+/** Compares two arrays element by element.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @param igualdad non-zero when two elements are equal
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesDouble(ARRAY *array1, ARRAY *array2,
+                                           arr_igualdad_Double igualdad) ARR_NOEXCEPT;
+/** Copies the array (one function under every family's name).
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaDouble(const ARRAY *array) ARR_NOEXCEPT;
+/** Appends every element of org to dest (one function under every family's name).
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaDouble(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** Grows the array to nuevo_tamanyo elements; the new ones are zero (one function under every
+ * family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoDouble(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Shrinks the array to its first nuevo_tamanyo elements (one function under every family's name).
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoDouble(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** Adds up the elements.
+ * @param array the array
+ * @return their sum; 0 for an empty array */
+ARRAYS_API double arr_SumatorioDouble(const ARRAY *array) ARR_NOEXCEPT;
+/** Calls accion for every element in position order.
+ * The action may change the element in place; calls that would free the array or change its count
+ * are refused while it runs.
+ * @param array the array
+ * @param accion called with each element's address and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
+ *     running */
+ARRAYS_API void arr_nousar_RecorreDouble(ARRAY *array, arr_accion_Double accion, void *datos,
+                                         const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** @} */
+/* @fin escalares */
 
 /* Reverses the order of the elements in place (the values are not negated). */
 ARRAYS_API void arr_InvertirBOOL(ARRAY *array) ARR_NOEXCEPT;
@@ -379,42 +2170,265 @@ ARRAYS_API void arr_cambio_precio_pesetas_a_euros(ARRAY *array) ARR_NOEXCEPT;
 
 /* ---- The shared functions under the names of the other families ------------------------- */
 
-/* Each is the same function as arr_DestruyeDouble, arr_NumElemsDouble, ... above. */
-#define ARR_NOMBRES_DESTRUYE(X)                                                                   \
-    X(arr_DestruyeBIT) X(arr_DestruyeCADENA) X(arr_DestruyeCADENA_u)                              \
-    X(arr_DestruyePunteroConTipo) X(arr_DestruyePunto2D) X(arr_DestruyePunto3D)                   \
-    X(arulong_destruye) X(arulong64_destruye)
-#define ARR_NOMBRES_NUMELEMS(X)                                                                   \
-    X(arr_NumElemsBIT) X(arr_NumElemsCADENA) X(arr_NumElemsCADENA_u) X(arr_NumElemsPunto2D)       \
-    X(arr_NumElemsPunto3D) X(arulong_numelems) X(arulong64_numelems)
-#define ARR_NOMBRES_COPIA(X)                                                                      \
-    X(arr_CopiaBIT) X(arr_CopiaCADENA) X(arr_CopiaCADENA_u) X(arr_CopiaPunto2D)                   \
-    X(arr_CopiaPunto3D) X(arulong_copia) X(arulong64_copia)
-#define ARR_NOMBRES_CONCATENA(X)                                                                  \
-    X(arr_ConcatenaCADENA) X(arr_ConcatenaCADENA_u) X(arr_ConcatenaPunto2D)                       \
-    X(arr_ConcatenaPunto3D) X(arulong_concatena) X(arulong64_concatena)
-#define ARR_NOMBRES_AUMENTA(X)                                                                    \
-    X(arr_AumentaTamanyoBIT) X(arr_AumentaTamanyoCADENA_u)                                        \
-    X(arr_AumentaTamanyoEstructurasConTipo) X(arr_AumentaTamanyoPunto2D)                          \
-    X(arr_AumentaTamanyoPunto3D)
-#define ARR_NOMBRES_REDUCE(X)                                                                     \
-    X(arr_ReduceTamanyoBIT) X(arr_ReduceTamanyoCADENA) X(arr_ReduceTamanyoCADENA_u)               \
-    X(arr_ReduceTamanyoPunto2D) X(arr_ReduceTamanyoPunto3D) X(arulong_reduce_tamanyo)             \
-    X(arulong64_reduce_tamanyo)
-
-#define ARR_DECLARA_DESTRUYE(nombre) ARRAYS_API void nombre(ARRAY **array) ARR_NOEXCEPT;
-#define ARR_DECLARA_NUMELEMS(nombre) ARRAYS_API arr_ulong_t nombre(const ARRAY *array) ARR_NOEXCEPT;
-#define ARR_DECLARA_COPIA(nombre) ARRAYS_API ARRAY *nombre(const ARRAY *array) ARR_NOEXCEPT;
-#define ARR_DECLARA_CONCATENA(nombre)                                                             \
-    ARRAYS_API void nombre(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
-#define ARR_DECLARA_TAMANYO(nombre)                                                               \
-    ARRAYS_API void nombre(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
-ARR_NOMBRES_DESTRUYE(ARR_DECLARA_DESTRUYE)
-ARR_NOMBRES_NUMELEMS(ARR_DECLARA_NUMELEMS)
-ARR_NOMBRES_COPIA(ARR_DECLARA_COPIA)
-ARR_NOMBRES_CONCATENA(ARR_DECLARA_CONCATENA)
-ARR_NOMBRES_AUMENTA(ARR_DECLARA_TAMANYO)
-ARR_NOMBRES_REDUCE(ARR_DECLARA_TAMANYO)
+/* @generado compartidas: tools/genera_interfaz.py writes what follows from tools/familias.py */
+/** The same function as arr_DestruyeDouble, under the name of the BIT arrays.
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeBIT(ARRAY **array) ARR_NOEXCEPT;
+/** The same function as arr_DestruyeDouble, under the name of the CADENA arrays.
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeCADENA(ARRAY **array) ARR_NOEXCEPT;
+/** The same function as arr_DestruyeDouble, under the name of the CADENA_u arrays.
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyeCADENA_u(ARRAY **array) ARR_NOEXCEPT;
+/** The same function as arr_DestruyeDouble, under the name of the PunteroConTipo arrays.
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyePunteroConTipo(ARRAY **array) ARR_NOEXCEPT;
+/** The same function as arr_DestruyeDouble, under the name of the Punto2D arrays.
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyePunto2D(ARRAY **array) ARR_NOEXCEPT;
+/** The same function as arr_DestruyeDouble, under the name of the Punto3D arrays.
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arr_DestruyePunto3D(ARRAY **array) ARR_NOEXCEPT;
+/** The same function as arr_DestruyeDouble, under the name of the ULong arrays.
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arulong_destruye(ARRAY **array) ARR_NOEXCEPT;
+/** The same function as arr_DestruyeDouble, under the name of the ULong64 arrays.
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->en_bucle == FALSO" when called from inside a walk of this array, which it then
+ *     leaves alive */
+ARRAYS_API void arulong64_destruye(ARRAY **array) ARR_NOEXCEPT;
+/** The same function as arr_NumElemsDouble, under the name of the BIT arrays.
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsBIT(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_NumElemsDouble, under the name of the CADENA arrays.
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsCADENA(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_NumElemsDouble, under the name of the CADENA_u arrays.
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsCADENA_u(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_NumElemsDouble, under the name of the Punto2D arrays.
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsPunto2D(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_NumElemsDouble, under the name of the Punto3D arrays.
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arr_NumElemsPunto3D(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_NumElemsDouble, under the name of the ULong arrays.
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arulong_numelems(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_NumElemsDouble, under the name of the ULong64 arrays.
+ * @param array the array
+ * @return the count; 0 for a handle that is not a live array */
+ARRAYS_API arr_ulong_t arulong64_numelems(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_CopiaDouble, under the name of the BIT arrays.
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaBIT(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_CopiaDouble, under the name of the CADENA arrays.
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaCADENA(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_CopiaDouble, under the name of the CADENA_u arrays.
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaCADENA_u(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_CopiaDouble, under the name of the Punto2D arrays.
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaPunto2D(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_CopiaDouble, under the name of the Punto3D arrays.
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arr_CopiaPunto3D(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_CopiaDouble, under the name of the ULong arrays.
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arulong_copia(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_CopiaDouble, under the name of the ULong64 arrays.
+ * @param array the array
+ * @return a new array with the same elements; NULL when the call ends early */
+ARRAYS_API ARRAY *arulong64_copia(const ARRAY *array) ARR_NOEXCEPT;
+/** The same function as arr_ConcatenaDouble, under the name of the CADENA arrays.
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaCADENA(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** The same function as arr_ConcatenaDouble, under the name of the CADENA_u arrays.
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaCADENA_u(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** The same function as arr_ConcatenaDouble, under the name of the Punto2D arrays.
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaPunto2D(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** The same function as arr_ConcatenaDouble, under the name of the Punto3D arrays.
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arr_ConcatenaPunto3D(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** The same function as arr_ConcatenaDouble, under the name of the ULong arrays.
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arulong_concatena(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** The same function as arr_ConcatenaDouble, under the name of the ULong64 arrays.
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @par Reports, besides the checks of the handle
+ *   - "(dest) != NULL", "(org) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == dest->tipo_elem" for arrays of two types
+ *   - "dest->en_bucle == FALSO" from inside a walk of dest */
+ARRAYS_API void arulong64_concatena(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
+/** The same function as arr_AumentaTamanyoDouble, under the name of the BIT arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoBIT(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_AumentaTamanyoDouble, under the name of the CADENA_u arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoCADENA_u(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_AumentaTamanyoDouble, under the name of the EstructurasConTipo arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoEstructurasConTipo(ARRAY *array,
+                                                     arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_AumentaTamanyoDouble, under the name of the Punto2D arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoPunto2D(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_AumentaTamanyoDouble, under the name of the Punto3D arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > array->num_elems" for a count not above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AumentaTamanyoPunto3D(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_ReduceTamanyoDouble, under the name of the BIT arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoBIT(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_ReduceTamanyoDouble, under the name of the CADENA arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoCADENA(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_ReduceTamanyoDouble, under the name of the CADENA_u arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoCADENA_u(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_ReduceTamanyoDouble, under the name of the Punto2D arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoPunto2D(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_ReduceTamanyoDouble, under the name of the Punto3D arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_ReduceTamanyoPunto3D(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_ReduceTamanyoDouble, under the name of the ULong arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong_reduce_tamanyo(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** The same function as arr_ReduceTamanyoDouble, under the name of the ULong64 arrays.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @par Reports, besides the checks of the handle
+ *   - a count above the present one
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong64_reduce_tamanyo(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/* @fin compartidas */
 
 /* ---- Bit arrays --------------------------------------------------------------------------- */
 
@@ -446,40 +2460,217 @@ ARRAYS_API void arr_InicializaBIT(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
  * arulong64_ for ULong64 arrays. An array made under either set of names may be used with the
  * other. Besides the shared arulong_destruye, arulong_numelems, arulong_copia,
  * arulong_concatena and arulong_reduce_tamanyo (above), each name below is the very same function
- * as its arr_ twin, X(second name, arr_ name), except arulong_crea and arulong_append_n.
+ * as its arr_ twin, except arulong_crea and arulong_append_n.
  */
-#define ARR_NOMBRES_ARULONG(X, P, F)                                                              \
-    X(P##_append, arr_Append##F) X(P##_inserta, arr_Insertar##F) X(P##_borra, arr_Borrar##F)      \
-    X(P##_get, arr_Get##F) X(P##_set, arr_Set##F) X(P##_busca, arr_Buscar##F)                     \
-    X(P##_busca_unico, arr_BuscarUnico##F) X(P##_existe, arr_Existe##F)                           \
-    X(P##_existe_unico, arr_ExisteUnico##F) X(P##_qsort, arr_QSort##F)                            \
-    X(P##_iguales, arr_SonIguales##F)
-
-/* The second names P of the family F of value type T. */
-#define ARR_DECLARA_ARULONG(P, F, T)                                                              \
-    /* A new empty array, as arr_CreaF(0). */                                                     \
-    ARRAYS_API ARRAY *P##_crea(void) ARR_NOEXCEPT;                                                \
-    /* Appends valor num_valores times; a count below 2 is reported ("num_valores > 1"). */       \
-    ARRAYS_API void P##_append_n(ARRAY *array, arr_ulong_t num_valores, T valor) ARR_NOEXCEPT;    \
-    ARRAYS_API void P##_append(ARRAY *array, T valor) ARR_NOEXCEPT;                               \
-    ARRAYS_API void P##_inserta(ARRAY *array, arr_ulong_t pos, T valor) ARR_NOEXCEPT;             \
-    ARRAYS_API void P##_borra(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;                        \
-    ARRAYS_API T P##_get(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;                             \
-    ARRAYS_API void P##_set(ARRAY *array, arr_ulong_t pos, T valor) ARR_NOEXCEPT;                 \
-    ARRAYS_API arr_ulong_t P##_busca(ARRAY *array, T valor,                                       \
-                                     arr_igualdad_##F igualdad) ARR_NOEXCEPT;                     \
-    ARRAYS_API arr_ulong_t P##_busca_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad)      \
-        ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API arr_bool_t P##_existe(ARRAY *array, T valor, arr_igualdad_##F igualdad,            \
-                                     arr_ulong_t *posicion)                                       \
-        ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API arr_bool_t P##_existe_unico(ARRAY *array, T valor, arr_igualdad_##F igualdad,      \
-                                           arr_ulong_t *posicion) ARR_NOEXCEPT;                   \
-    ARRAYS_API void P##_qsort(ARRAY *array, arr_orden_##F comparador) ARR_NOEXCEPT;               \
-    ARRAYS_API arr_bool_t P##_iguales(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
-
-ARR_DECLARA_ARULONG(arulong, ULong, arr_ulong_t)
-ARR_DECLARA_ARULONG(arulong64, ULong64, arr_ulong64_t)
+/* @generado arulong: tools/genera_interfaz.py writes what follows from tools/familias.py */
+/** Creates an empty ULong array, as arr_CreaULong(0) does.
+ * @return the new array, to be destroyed with arulong_destruye */
+ARRAYS_API ARRAY *arulong_crea(void) ARR_NOEXCEPT;
+/** Appends valor num_valores times.
+ * @param array the array
+ * @param num_valores how many times
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "num_valores > 1" for a count below 2 (then appends it that many times)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong_append_n(ARRAY *array, arr_ulong_t num_valores,
+                                 arr_ulong_t valor) ARR_NOEXCEPT;
+/** The same function as arr_AppendULong.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong_append(ARRAY *array, arr_ulong_t valor) ARR_NOEXCEPT;
+/** The same function as arr_InsertarULong.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong_inserta(ARRAY *array, arr_ulong_t pos, arr_ulong_t valor) ARR_NOEXCEPT;
+/** The same function as arr_BorrarULong.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong_borra(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** The same function as arr_GetULong.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_ulong_t arulong_get(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** The same function as arr_SetULong.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arulong_set(ARRAY *array, arr_ulong_t pos, arr_ulong_t valor) ARR_NOEXCEPT;
+/** The same function as arr_BuscarULong.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arulong_busca(ARRAY *array, arr_ulong_t valor,
+                                     arr_igualdad_ULong igualdad) ARR_NOEXCEPT;
+/** The same function as arr_BuscarUnicoULong.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arulong_busca_unico(ARRAY *array, arr_ulong_t valor,
+                                           arr_igualdad_ULong igualdad) ARR_NOEXCEPT;
+/** The same function as arr_ExisteULong.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arulong_existe(ARRAY *array, arr_ulong_t valor, arr_igualdad_ULong igualdad,
+                                     arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** The same function as arr_ExisteUnicoULong.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arulong_existe_unico(ARRAY *array, arr_ulong_t valor,
+                                           arr_igualdad_ULong igualdad,
+                                           arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** The same function as arr_QSortULong.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arulong_qsort(ARRAY *array, arr_orden_ULong comparador) ARR_NOEXCEPT;
+/** The same function as arr_SonIgualesULong.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arulong_iguales(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Creates an empty ULong64 array, as arr_CreaULong64(0) does.
+ * @return the new array, to be destroyed with arulong64_destruye */
+ARRAYS_API ARRAY *arulong64_crea(void) ARR_NOEXCEPT;
+/** Appends valor num_valores times.
+ * @param array the array
+ * @param num_valores how many times
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "num_valores > 1" for a count below 2 (then appends it that many times)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong64_append_n(ARRAY *array, arr_ulong_t num_valores,
+                                   arr_ulong64_t valor) ARR_NOEXCEPT;
+/** The same function as arr_AppendULong64.
+ * @param array the array
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong64_append(ARRAY *array, arr_ulong64_t valor) ARR_NOEXCEPT;
+/** The same function as arr_InsertarULong64.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong64_inserta(ARRAY *array, arr_ulong_t pos, arr_ulong64_t valor) ARR_NOEXCEPT;
+/** The same function as arr_BorrarULong64.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arulong64_borra(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** The same function as arr_GetULong64.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the element; 0 when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_ulong64_t arulong64_get(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** The same function as arr_SetULong64.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param valor the value
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array (the write is made) */
+ARRAYS_API void arulong64_set(ARRAY *array, arr_ulong_t pos, arr_ulong64_t valor) ARR_NOEXCEPT;
+/** The same function as arr_BuscarULong64.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arulong64_busca(ARRAY *array, arr_ulong64_t valor,
+                                       arr_igualdad_ULong64 igualdad) ARR_NOEXCEPT;
+/** The same function as arr_BuscarUnicoULong64.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arulong64_busca_unico(ARRAY *array, arr_ulong64_t valor,
+                                             arr_igualdad_ULong64 igualdad) ARR_NOEXCEPT;
+/** The same function as arr_ExisteULong64.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arulong64_existe(ARRAY *array, arr_ulong64_t valor,
+                                       arr_igualdad_ULong64 igualdad,
+                                       arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** The same function as arr_ExisteUnicoULong64.
+ * @param array the array
+ * @param valor the value looked for
+ * @param igualdad non-zero when an element and valor are equal; NULL compares exactly
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arulong64_existe_unico(ARRAY *array, arr_ulong64_t valor,
+                                             arr_igualdad_ULong64 igualdad,
+                                             arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** The same function as arr_QSortULong64.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for ascending values
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arulong64_qsort(ARRAY *array, arr_orden_ULong64 comparador) ARR_NOEXCEPT;
+/** The same function as arr_SonIgualesULong64.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal elements at every position
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arulong64_iguales(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/* @fin arulong */
 
 /* ---- Narrow and wide string arrays ---------------------------------------------------------- */
 
@@ -565,67 +2756,534 @@ ARR_DECLARA_ARULONG(arulong64, ULong64, arr_ulong64_t)
  * difference of upper and lower case.
  */
 
-/* Callbacks of a string family S ("" or _u) of character type C. */
-#define ARR_DECLARA_CALLBACKS_CADENA(S, C)                                                        \
-    typedef arr_bool_t (*arr_igualdad_CADENA##S)(const C *a, const C *b);                         \
-    typedef int (*arr_orden_CADENA##S)(const C *a, const C *b);                                   \
-    typedef arr_bool_t (*arr_accion_CADENA##S)(C **cadena, void *datos);
+/* @generado cadenas: tools/genera_interfaz.py writes what follows from tools/familias.py */
+/** @defgroup familia_CADENA CADENA arrays
+ * Arrays of narrow strings that own them.
+ * @{ */
+/** Equality of two strings in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_CADENA)(const char *a, const char *b);
+/** Order of arr_QSortCADENA: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
+typedef int (*arr_orden_CADENA)(const char *a, const char *b);
+/** Action of nousar_RecorreCADENA: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_CADENA)(char **cadena, void *datos);
+/** Creates an array of narrow strings that owns its strings.
+ * @param tamanyo_inicial how many NULL elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeCADENA */
+ARRAYS_API ARRAY *arr_CreaCADENA(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Appends a copy of cadena.
+ * @param array the array
+ * @param cadena the string, copied; NULL stands for no string
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendCADENA(ARRAY *array, const char *cadena) ARR_NOEXCEPT;
+/** Appends the string *cadena itself.
+ * @param array the array
+ * @param cadena the address of a string made by cad_copia_cadena, which the array takes; it is
+ *   set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "item" for a NULL address (nothing is appended)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendCADENAOriginal(ARRAY *array, char **cadena) ARR_NOEXCEPT;
+/** Appends num_veces separate copies of cadena.
+ * @param array the array
+ * @param num_veces how many copies; 0 appends nothing
+ * @param cadena the string, copied; NULL stands for no string
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendNCADENAs(ARRAY *array, arr_ulong_t num_veces,
+                                   const char *cadena) ARR_NOEXCEPT;
+/** Inserts a copy of cadena before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param cadena the string, copied; NULL stands for no string
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarCADENA(ARRAY *array, arr_ulong_t pos, const char *cadena) ARR_NOEXCEPT;
+/** Frees the string at pos and deletes the element.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarCADENA(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the string at pos, lent by the array.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the stored string, valid until that element changes; NULL for a NULL element or when
+ *   the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API const char *arr_GetCADENA(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Copies the string at pos for the caller.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return a new string that the caller frees with zarpstr_destruye; NULL for a NULL element
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API char *arr_GetCopiaCADENA(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Frees the string at pos and stores a copy of cadena.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param cadena the string, copied
+ * @par Reports, besides the checks of the handle
+ *   - "item" for a NULL cadena, which leaves the element as it was
+ *   - "(ptr_cad) != NULL" for a position without element
+ *   - "array->en_bucle == FALSO" from inside a sort of this array (nothing is stored) */
+ARRAYS_API void arr_SetCADENA(ARRAY *array, arr_ulong_t pos, const char *cadena) ARR_NOEXCEPT;
+/** Frees the string at pos and stores the string *cadena itself.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param cadena the address of a string made by cad_copia_cadena, which the array takes; it is
+ *   set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "item" for a NULL address, which leaves the element as it was
+ *   - "(ptr_cad) != NULL" for a position without element (*cadena then stays the caller's) */
+ARRAYS_API void arr_SetCADENAOriginal(ARRAY *array, arr_ulong_t pos, char **cadena) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for the order of the code units, NULL
+ *   elements first
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortCADENA(ARRAY *array, arr_orden_CADENA comparador) ARR_NOEXCEPT;
+/** Compares two string arrays element by element with the caller's predicate.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @param igualdad non-zero when two strings are equal
+ * @return CIERTO when they have the same count and equal strings at every position
+ * @par Reports, besides the checks of the handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesCADENA(ARRAY *array1, ARRAY *array2,
+                                           arr_igualdad_CADENA igualdad) ARR_NOEXCEPT;
+/** Compares two string arrays element by element, exactly.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal strings at every position
+ * @par Reports, besides the checks of the handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesExactamenteCADENA(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Joins the strings of the array into one (a NULL element adds nothing).
+ * @param array the array
+ * @param inicio written first; 0 leaves it out
+ * @param separador written between two elements; 0 leaves it out
+ * @param fin written last; 0 leaves it out
+ * @return a new string that the caller frees with zarpstr_destruye
+ * @par Reports, besides the checks of the handle
+ *   - "num_cadenas > 0" for an empty array (the result is then just inicio) */
+ARRAYS_API char *arr_cadena_de_referencias(ARRAY *array, char inicio, char separador,
+                                           char fin) ARR_NOEXCEPT;
+/** Calls accion for every element in position order; the action may replace the string (freeing the
+ * old one).
+ * @param array the array
+ * @param accion called with each element's address and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
+ *     running */
+ARRAYS_API void nousar_RecorreCADENA(ARRAY *array, arr_accion_CADENA accion, void *datos,
+                                     const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** Finds the first element equal to cadena, compared exactly.
+ * @param array the array
+ * @param cadena the string looked for
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarCADENA(ARRAY *array, const char *cadena) ARR_NOEXCEPT;
+/** Finds the first element from pos_inicial on equal to cadena, compared exactly.
+ * @param array the array
+ * @param pos_inicial where the search starts (included)
+ * @param cadena the string looked for
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarSiguienteCADENA(ARRAY *array, arr_ulong_t pos_inicial,
+                                                 const char *cadena) ARR_NOEXCEPT;
+/** Finds the element equal to cadena, compared exactly, which should be the only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @return the position of the last match, or ARR_ULONG_MAX
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicaCADENA(ARRAY *array, const char *cadena) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared exactly.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteCADENA(ARRAY *array, const char *cadena,
+                                       arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared exactly, which should be the only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicaCADENA(ARRAY *array, const char *cadena,
+                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Finds the first element equal to cadena, compared by the caller's predicate.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarExCADENA(ARRAY *array, const char *cadena,
+                                          arr_igualdad_CADENA igualdad) ARR_NOEXCEPT;
+/** Finds the first element from pos_inicial on equal to cadena, compared by the caller's predicate.
+ * @param array the array
+ * @param pos_inicial where the search starts (included)
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarSiguienteExCADENA(ARRAY *array, arr_ulong_t pos_inicial,
+                                                   const char *cadena,
+                                                   arr_igualdad_CADENA igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to cadena, compared by the caller's predicate, which should be the only
+ * one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @return the position of the last match, or ARR_ULONG_MAX
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicaExCADENA(ARRAY *array, const char *cadena,
+                                               arr_igualdad_CADENA igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared by the caller's predicate.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteExCADENA(ARRAY *array, const char *cadena,
+                                         arr_igualdad_CADENA igualdad,
+                                         arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared by the caller's predicate, which should be the
+ * only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicaExCADENA(ARRAY *array, const char *cadena,
+                                              arr_igualdad_CADENA igualdad,
+                                              arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Finds the first element equal to cadena, compared ignoring the difference of upper and lower
+ * case.
+ * @param array the array
+ * @param cadena the string looked for
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarMayMinCADENA(ARRAY *array, const char *cadena) ARR_NOEXCEPT;
+/** Finds the first element from pos_inicial on equal to cadena, compared ignoring the difference of
+ * upper and lower case.
+ * @param array the array
+ * @param pos_inicial where the search starts (included)
+ * @param cadena the string looked for
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarSiguienteMayMinCADENA(ARRAY *array, arr_ulong_t pos_inicial,
+                                                       const char *cadena) ARR_NOEXCEPT;
+/** Finds the element equal to cadena, compared ignoring the difference of upper and lower case,
+ * which should be the only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @return the position of the last match, or ARR_ULONG_MAX
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicaMayMinCADENA(ARRAY *array, const char *cadena) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared ignoring the difference of upper and lower
+ * case.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteMayMinCADENA(ARRAY *array, const char *cadena,
+                                             arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared ignoring the difference of upper and lower
+ * case, which should be the only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicaMayMinCADENA(ARRAY *array, const char *cadena,
+                                                  arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** @} */
 
-/* The predicate parameter of a search, by how it compares strings. */
-#define ARR_PREDICADO_CADENA_EXACTA(S)
-#define ARR_PREDICADO_CADENA_EX(S) , arr_igualdad_CADENA##S igualdad
-#define ARR_PREDICADO_CADENA_MAYMIN(S)
-
-/* The five searches of one way of comparing (CLASE: nothing, Ex or MayMin). */
-#define ARR_DECLARA_BUSQUEDAS_CADENA(S, C, CLASE, PREDICADO)                                      \
-    ARRAYS_API arr_ulong_t arr_Buscar##CLASE##CADENA##S(ARRAY *array,                             \
-                                                        const C *cadena PREDICADO(S))             \
-        ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API arr_ulong_t arr_BuscarSiguiente##CLASE##CADENA##S(ARRAY *array,                    \
-                                                                 arr_ulong_t pos_inicial,         \
-                                                                 const C *cadena PREDICADO(S))    \
-        ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API arr_ulong_t arr_BuscarUnica##CLASE##CADENA##S(ARRAY *array,                        \
-                                                             const C *cadena PREDICADO(S))        \
-        ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API arr_bool_t arr_Existe##CLASE##CADENA##S(ARRAY *array, const C *cadena PREDICADO(S), \
-                                                       arr_ulong_t *posicion) ARR_NOEXCEPT;       \
-    ARRAYS_API arr_bool_t arr_ExisteUnica##CLASE##CADENA##S(ARRAY *array,                         \
-                                                            const C *cadena PREDICADO(S),         \
-                                                            arr_ulong_t *posicion) ARR_NOEXCEPT;
-
-/* Every function of a string family S of character type C that both widths have. */
-#define ARR_DECLARA_FAMILIA_CADENA(S, C)                                                          \
-    ARR_DECLARA_CALLBACKS_CADENA(S, C)                                                            \
-    ARRAYS_API ARRAY *arr_CreaCADENA##S(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;                \
-    ARRAYS_API void arr_AppendCADENA##S(ARRAY *array, const C *cadena) ARR_NOEXCEPT;              \
-    ARRAYS_API void arr_AppendCADENAOriginal##S(ARRAY *array, C **cadena) ARR_NOEXCEPT;           \
-    ARRAYS_API void arr_AppendNCADENAs##S(ARRAY *array, arr_ulong_t num_veces, const C *cadena)   \
-        ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API void arr_InsertarCADENA##S(ARRAY *array, arr_ulong_t pos,                          \
-                                          const C *cadena) ARR_NOEXCEPT;                          \
-    ARRAYS_API void arr_BorrarCADENA##S(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;              \
-    ARRAYS_API const C *arr_GetCADENA##S(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;             \
-    ARRAYS_API C *arr_GetCopiaCADENA##S(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;              \
-    ARRAYS_API void arr_SetCADENA##S(ARRAY *array, arr_ulong_t pos, const C *cadena) ARR_NOEXCEPT; \
-    ARRAYS_API void arr_SetCADENAOriginal##S(ARRAY *array, arr_ulong_t pos,                       \
-                                             C **cadena) ARR_NOEXCEPT;                            \
-    ARRAYS_API void arr_QSortCADENA##S(ARRAY *array, arr_orden_CADENA##S comparador) ARR_NOEXCEPT; \
-    ARRAYS_API arr_bool_t arr_SonIgualesCADENA##S(ARRAY *array1, ARRAY *array2,                   \
-                                                  arr_igualdad_CADENA##S igualdad) ARR_NOEXCEPT;  \
-    ARRAYS_API arr_bool_t arr_SonIgualesExactamenteCADENA##S(ARRAY *array1,                       \
-                                                             ARRAY *array2) ARR_NOEXCEPT;         \
-    ARRAYS_API C *arr_cadena_de_referencias##S(ARRAY *array, C inicio, C separador, C fin)        \
-        ARR_NOEXCEPT;                                                                             \
-    ARRAYS_API void nousar_RecorreCADENA##S(ARRAY *array, arr_accion_CADENA##S accion,            \
-                                            void *datos, const char *ubicacion, arr_long_t linea) \
-        ARR_NOEXCEPT;                                                                             \
-    ARR_DECLARA_BUSQUEDAS_CADENA(S, C, , ARR_PREDICADO_CADENA_EXACTA)                             \
-    ARR_DECLARA_BUSQUEDAS_CADENA(S, C, Ex, ARR_PREDICADO_CADENA_EX)                               \
-    ARR_DECLARA_BUSQUEDAS_CADENA(S, C, MayMin, ARR_PREDICADO_CADENA_MAYMIN)
-
-ARR_DECLARA_FAMILIA_CADENA(, char)
-ARR_DECLARA_FAMILIA_CADENA(_u, arr_wchar_t)
+/** @defgroup familia_CADENA_u CADENA_u arrays
+ * Arrays of wide (UTF-16) strings that own them.
+ * @{ */
+/** Equality of two strings in searches and comparisons: non-zero when equal. */
+typedef arr_bool_t (*arr_igualdad_CADENA_u)(const arr_wchar_t *a, const arr_wchar_t *b);
+/** Order of arr_QSortCADENA_u: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR.
+ */
+typedef int (*arr_orden_CADENA_u)(const arr_wchar_t *a, const arr_wchar_t *b);
+/** Action of nousar_RecorreCADENA_u: the element's address and the caller's datos; the result is
+ * ignored. */
+typedef arr_bool_t (*arr_accion_CADENA_u)(arr_wchar_t **cadena, void *datos);
+/** Creates an array of wide (UTF-16) strings that owns its strings.
+ * @param tamanyo_inicial how many NULL elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyeCADENA_u */
+ARRAYS_API ARRAY *arr_CreaCADENA_u(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
+/** Appends a copy of cadena.
+ * @param array the array
+ * @param cadena the string, copied; NULL stands for no string
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendCADENA_u(ARRAY *array, const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Appends the string *cadena itself.
+ * @param array the array
+ * @param cadena the address of a string made by widestr_fun_copia, which the array takes; it is
+ *   set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "item" for a NULL address (nothing is appended)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendCADENAOriginal_u(ARRAY *array, arr_wchar_t **cadena) ARR_NOEXCEPT;
+/** Appends num_veces separate copies of cadena.
+ * @param array the array
+ * @param num_veces how many copies; 0 appends nothing
+ * @param cadena the string, copied; NULL stands for no string
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_AppendNCADENAs_u(ARRAY *array, arr_ulong_t num_veces,
+                                     const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Inserts a copy of cadena before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param cadena the string, copied; NULL stands for no string
+ * @par Reports, besides the checks of the handle
+ *   - a pos beyond the count
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_InsertarCADENA_u(ARRAY *array, arr_ulong_t pos,
+                                     const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Frees the string at pos and deletes the element.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
+ARRAYS_API void arr_BorrarCADENA_u(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Reads the string at pos, lent by the array.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the stored string, valid until that element changes; NULL for a NULL element or when
+ *   the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API const arr_wchar_t *arr_GetCADENA_u(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Copies the string at pos for the caller.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return a new string that the caller frees with widestr_nousar_destruye; NULL for a NULL
+ *   element
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element */
+ARRAYS_API arr_wchar_t *arr_GetCopiaCADENA_u(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Frees the string at pos and stores a copy of cadena.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param cadena the string, copied
+ * @par Reports, besides the checks of the handle
+ *   - "item" for a NULL cadena, which leaves the element as it was
+ *   - "(ptr_cad) != NULL" for a position without element
+ *   - "array->en_bucle == FALSO" from inside a sort of this array (nothing is stored) */
+ARRAYS_API void arr_SetCADENA_u(ARRAY *array, arr_ulong_t pos,
+                                const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Frees the string at pos and stores the string *cadena itself.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param cadena the address of a string made by widestr_fun_copia, which the array takes; it is
+ *   set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - "item" for a NULL address, which leaves the element as it was
+ *   - "(ptr_cad) != NULL" for a position without element (*cadena then stays the caller's) */
+ARRAYS_API void arr_SetCADENAOriginal_u(ARRAY *array, arr_ulong_t pos,
+                                        arr_wchar_t **cadena) ARR_NOEXCEPT;
+/** Sorts the array in place by the quicksort that the library documents.
+ * @param array the array
+ * @param comparador the order (comparac_* results), or NULL for the order of the code units, NULL
+ *   elements first
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array */
+ARRAYS_API void arr_QSortCADENA_u(ARRAY *array, arr_orden_CADENA_u comparador) ARR_NOEXCEPT;
+/** Compares two string arrays element by element with the caller's predicate.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @param igualdad non-zero when two strings are equal
+ * @return CIERTO when they have the same count and equal strings at every position
+ * @par Reports, besides the checks of the handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesCADENA_u(ARRAY *array1, ARRAY *array2,
+                                             arr_igualdad_CADENA_u igualdad) ARR_NOEXCEPT;
+/** Compares two string arrays element by element, exactly.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @return CIERTO when they have the same count and equal strings at every position
+ * @par Reports, besides the checks of the handle
+ *   - the handle and tag checks of each array */
+ARRAYS_API arr_bool_t arr_SonIgualesExactamenteCADENA_u(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** Joins the strings of the array into one (a NULL element adds nothing).
+ * @param array the array
+ * @param inicio written first; 0 leaves it out
+ * @param separador written between two elements; 0 leaves it out
+ * @param fin written last; 0 leaves it out
+ * @return a new string that the caller frees with widestr_nousar_destruye
+ * @par Reports, besides the checks of the handle
+ *   - "num_cadenas > 0" for an empty array (the result is then just inicio) */
+ARRAYS_API arr_wchar_t *arr_cadena_de_referencias_u(ARRAY *array, arr_wchar_t inicio,
+                                                    arr_wchar_t separador,
+                                                    arr_wchar_t fin) ARR_NOEXCEPT;
+/** Calls accion for every element in position order; the action may replace the string (freeing the
+ * old one).
+ * @param array the array
+ * @param accion called with each element's address and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
+ *     running */
+ARRAYS_API void nousar_RecorreCADENA_u(ARRAY *array, arr_accion_CADENA_u accion, void *datos,
+                                       const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** Finds the first element equal to cadena, compared exactly.
+ * @param array the array
+ * @param cadena the string looked for
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarCADENA_u(ARRAY *array, const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Finds the first element from pos_inicial on equal to cadena, compared exactly.
+ * @param array the array
+ * @param pos_inicial where the search starts (included)
+ * @param cadena the string looked for
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarSiguienteCADENA_u(ARRAY *array, arr_ulong_t pos_inicial,
+                                                   const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Finds the element equal to cadena, compared exactly, which should be the only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @return the position of the last match, or ARR_ULONG_MAX
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicaCADENA_u(ARRAY *array,
+                                               const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared exactly.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteCADENA_u(ARRAY *array, const arr_wchar_t *cadena,
+                                         arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared exactly, which should be the only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicaCADENA_u(ARRAY *array, const arr_wchar_t *cadena,
+                                              arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Finds the first element equal to cadena, compared by the caller's predicate.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarExCADENA_u(ARRAY *array, const arr_wchar_t *cadena,
+                                            arr_igualdad_CADENA_u igualdad) ARR_NOEXCEPT;
+/** Finds the first element from pos_inicial on equal to cadena, compared by the caller's predicate.
+ * @param array the array
+ * @param pos_inicial where the search starts (included)
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarSiguienteExCADENA_u(ARRAY *array, arr_ulong_t pos_inicial,
+                                                     const arr_wchar_t *cadena,
+                                                     arr_igualdad_CADENA_u igualdad) ARR_NOEXCEPT;
+/** Finds the element equal to cadena, compared by the caller's predicate, which should be the only
+ * one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @return the position of the last match, or ARR_ULONG_MAX
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicaExCADENA_u(ARRAY *array, const arr_wchar_t *cadena,
+                                                 arr_igualdad_CADENA_u igualdad) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared by the caller's predicate.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteExCADENA_u(ARRAY *array, const arr_wchar_t *cadena,
+                                           arr_igualdad_CADENA_u igualdad,
+                                           arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared by the caller's predicate, which should be the
+ * only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param igualdad non-zero when the element (first) matches cadena (second)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicaExCADENA_u(ARRAY *array, const arr_wchar_t *cadena,
+                                                arr_igualdad_CADENA_u igualdad,
+                                                arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Finds the first element equal to cadena, compared ignoring the difference of upper and lower
+ * case.
+ * @param array the array
+ * @param cadena the string looked for
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarMayMinCADENA_u(ARRAY *array,
+                                                const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Finds the first element from pos_inicial on equal to cadena, compared ignoring the difference of
+ * upper and lower case.
+ * @param array the array
+ * @param pos_inicial where the search starts (included)
+ * @param cadena the string looked for
+ * @return its position, or ARR_ULONG_MAX when there is none */
+ARRAYS_API arr_ulong_t arr_BuscarSiguienteMayMinCADENA_u(ARRAY *array, arr_ulong_t pos_inicial,
+                                                         const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Finds the element equal to cadena, compared ignoring the difference of upper and lower case,
+ * which should be the only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @return the position of the last match, or ARR_ULONG_MAX
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_ulong_t arr_BuscarUnicaMayMinCADENA_u(ARRAY *array,
+                                                     const arr_wchar_t *cadena) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared ignoring the difference of upper and lower
+ * case.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does */
+ARRAYS_API arr_bool_t arr_ExisteMayMinCADENA_u(ARRAY *array, const arr_wchar_t *cadena,
+                                               arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element equals cadena, compared ignoring the difference of upper and lower
+ * case, which should be the only one.
+ * @param array the array
+ * @param cadena the string looked for
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first */
+ARRAYS_API arr_bool_t arr_ExisteUnicaMayMinCADENA_u(ARRAY *array, const arr_wchar_t *cadena,
+                                                    arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** @} */
+/* @fin cadenas */
 
 /* The narrow growth; see above. */
 ARRAYS_API arr_ulong_t arr_AumentaTamanyoCADENA(ARRAY *array,

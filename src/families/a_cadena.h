@@ -7,6 +7,7 @@
 #include "core/arrayprv.h"
 #include "core/comparadores.h"
 #include "core/quicksort.h"
+#include "families/tabla_familias.h"
 #include "services/cadenas.h"
 #include "services/informes.h"
 
@@ -271,7 +272,7 @@ template <typename C> struct FamiliaCadena {
 
 // ---- The exports of one width: S is the name suffix ("" or _u), C the character type ---------
 
-// The predicate a search passes on, by how it compares (see ARR_PREDICADO_CADENA_* in arrays.h).
+// The predicate a search passes on, by how it compares (see ARR_PREDICADO_CADENA_*).
 #define ARR_IGUALDAD_CADENA_EXACTA(C) Cadenas<C>::exacta
 #define ARR_IGUALDAD_CADENA_EX(C) igualdad
 #define ARR_IGUALDAD_CADENA_MAYMIN(C) Cadenas<C>::may_min

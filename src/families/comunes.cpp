@@ -2,6 +2,7 @@
 // name as symbol aliases (so the names have one address).
 #include "core/comparadores.h"
 #include "families/alias.h"
+#include "families/tabla_familias.h"
 
 // The shared bodies; hidden, reached only through their exported names.
 extern "C" void arr_destruye_comun(ARRAY **array) noexcept { arrayprv_destruye(array); }

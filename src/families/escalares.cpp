@@ -1,6 +1,8 @@
-// The exports of every scalar family, one table line each (ARR_FAMILIAS_ESCALARES in arrays.h).
+// The exports of every scalar family, one table line each (ARR_FAMILIAS_ESCALARES, written from
+// tools/familias.py).
 #include "families/alias.h"
 #include "families/familia_escalar.h"
+#include "families/tabla_familias.h"
 
 // The predicate a search or an equality passes on, by how the family compares.
 #define ARR_IGUALDAD_DE_ARR_BOOLEANO nullptr

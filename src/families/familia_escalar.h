@@ -12,7 +12,7 @@
 
 #include <cstring>
 
-// How a family's values compare (see ARR_BOOLEANO, ARR_ENTERO, ARR_REAL in arrays.h).
+// How a family's values compare (ARR_BOOLEANO, ARR_ENTERO, ARR_REAL in tools/familias.py).
 enum class Comparacion { booleano, entero, real };
 
 // The count precondition of a repeated append: the smallest count accepted and the text that

@@ -2,6 +2,7 @@
 // UShort, double for the others), reported when it is not strictly inside the family's range,
 // and then stored in the element's own width whatever the check said.
 #include "families/familia_escalar.h"
+#include "families/tabla_familias.h"
 
 #include <climits>
 #include <cstdint>

@@ -1,6 +1,7 @@
 // Totals over a whole array: arr_SumatorioX (unsigned families wrap, with no report) and
 // arr_MinimoMaximoDouble.
 #include "families/familia_escalar.h"
+#include "families/tabla_familias.h"
 
 #include <cfloat>
 

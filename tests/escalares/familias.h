@@ -1,9 +1,10 @@
 // The scalar families as the typed tests see them: one traits struct per family, made from the
-// family table of arrays.h, naming its value type, its tag and its exports. An optional
+// family table of families/tabla_familias.h, naming its value type, its tag and its exports. An optional
 // operation is a member only where the family exports it.
 #pragma once
 
 #include "arrays.h"
+#include "families/tabla_familias.h"
 
 #include <gtest/gtest.h>
 

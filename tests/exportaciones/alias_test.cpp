@@ -2,6 +2,7 @@
 // library (libarrays.so, arrays.dll), every name of a group has the address of the group's first
 // name.
 #include "arrays.h"
+#include "families/tabla_familias.h"
 
 #include "soporte/sistema.h"
 

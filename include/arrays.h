@@ -216,10 +216,12 @@ ARRAYS_API arr_bool_t arryprv_es_array_correcto(const ARRAY *array, int32_t *tip
  *
  * Callbacks that change the array they are called for. While a traversal, a sort, a search, an
  * equality or a destruction calls back into the application (an action, a comparator, a
- * predicate, a release function), a call on the same array that would free it or change its
- * element count (append, insert, delete, grow, shrink, concatenation into it, destroy) is
+ * predicate, a release function), a call on the same array that would free it or move, free or
+ * shorten its rows (insert, delete, grow, shrink, destroy, an append that needs a new row) is
  * reported and NOT carried out: the walk goes on over the elements it started with, and the
- * caller's handle stays valid, to be destroyed once the walk has returned. Inside a sort, a string
+ * caller's handle stays valid, to be destroyed once the walk has returned. A traversal, sort or
+ * search also refuses appends and concatenations into the array; an equality walk lets an append
+ * that fits in the last row through, without a report. Inside a sort, a string
  * set (which would free a string the sort may hold) is refused the same way. Writes in place
  * (sets, increments, initialise) are reported and carried out. The reports are the loop-guard
  * texts, e.g. "array->en_bucle == FALSO" or "(*array)->en_bucle_lectura == FALSO".
@@ -467,16 +469,16 @@ ARRAYS_API void arr_AumentaTamanyoBOOL(ARRAY *array, arr_ulong_t nuevo_tamanyo) 
  *     array, which is then left as it was */
 ARRAYS_API void arr_ReduceTamanyoBOOL(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
 /** Calls accion for every element in position order.
- * The action may change the element in place; calls that would free the array or change its count
- * are refused while it runs.
+ * The action may change the element in place; calls that would free the array or move, free or
+ * shorten its rows are refused while it runs.
  * @param array the array
  * @param accion called with each element's address and datos
  * @param datos handed to every call of accion
  * @param ubicacion the caller's module, named in a report of a walk already running
  * @param linea the caller's line, likewise
  * @par Reports, besides the checks of the handle
- *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
- *     running */
+ *   - "en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already running
+ *     (this one still runs) */
 ARRAYS_API void arr_nousar_RecorreBOOL(ARRAY *array, arr_accion_BOOL accion, void *datos,
                                        const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /** @} */
@@ -918,16 +920,16 @@ ARRAYS_API ARRAY *arr_CopiaChar(const ARRAY *array) ARR_NOEXCEPT;
  *   - "dest->en_bucle == FALSO" from inside a walk of dest */
 ARRAYS_API void arr_ConcatenaChar(ARRAY *dest, const ARRAY *org) ARR_NOEXCEPT;
 /** Calls accion for every element in position order.
- * The action may change the element in place; calls that would free the array or change its count
- * are refused while it runs.
+ * The action may change the element in place; calls that would free the array or move, free or
+ * shorten its rows are refused while it runs.
  * @param array the array
  * @param accion called with each element's address and datos
  * @param datos handed to every call of accion
  * @param ubicacion the caller's module, named in a report of a walk already running
  * @param linea the caller's line, likewise
  * @par Reports, besides the checks of the handle
- *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
- *     running */
+ *   - "en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already running
+ *     (this one still runs) */
 ARRAYS_API void arr_nousar_RecorreChar(ARRAY *array, arr_accion_Char accion, void *datos,
                                        const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /** @} */
@@ -1233,16 +1235,16 @@ ARRAYS_API void arr_ReduceTamanyoUShort(ARRAY *array, arr_ulong_t nuevo_tamanyo)
  *   - "real_pos < array->num_elems" for a position without element */
 ARRAYS_API void arr_SumarUShort(ARRAY *array, arr_ulong_t pos, arr_short_t delta) ARR_NOEXCEPT;
 /** Calls accion for every element in position order.
- * The action may change the element in place; calls that would free the array or change its count
- * are refused while it runs.
+ * The action may change the element in place; calls that would free the array or move, free or
+ * shorten its rows are refused while it runs.
  * @param array the array
  * @param accion called with each element's address and datos
  * @param datos handed to every call of accion
  * @param ubicacion the caller's module, named in a report of a walk already running
  * @param linea the caller's line, likewise
  * @par Reports, besides the checks of the handle
- *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
- *     running */
+ *   - "en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already running
+ *     (this one still runs) */
 ARRAYS_API void arr_nousar_RecorreUShort(ARRAY *array, arr_accion_UShort accion, void *datos,
                                          const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /** @} */
@@ -1586,16 +1588,16 @@ ARRAYS_API void arr_SumarULong(ARRAY *array, arr_ulong_t pos, arr_long_t delta) 
  * @return their sum, modulo 2 to the element's width in bits; 0 for an empty array */
 ARRAYS_API arr_ulong_t arr_SumatorioULong(const ARRAY *array) ARR_NOEXCEPT;
 /** Calls accion for every element in position order.
- * The action may change the element in place; calls that would free the array or change its count
- * are refused while it runs.
+ * The action may change the element in place; calls that would free the array or move, free or
+ * shorten its rows are refused while it runs.
  * @param array the array
  * @param accion called with each element's address and datos
  * @param datos handed to every call of accion
  * @param ubicacion the caller's module, named in a report of a walk already running
  * @param linea the caller's line, likewise
  * @par Reports, besides the checks of the handle
- *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
- *     running */
+ *   - "en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already running
+ *     (this one still runs) */
 ARRAYS_API void arr_nousar_RecorreULong(ARRAY *array, arr_accion_ULong accion, void *datos,
                                         const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /** @} */
@@ -1943,16 +1945,16 @@ ARRAYS_API void arr_SumarULong64(ARRAY *array, arr_ulong_t pos, arr_long64_t del
  * @return their sum, modulo 2 to the element's width in bits; 0 for an empty array */
 ARRAYS_API arr_ulong64_t arr_SumatorioULong64(const ARRAY *array) ARR_NOEXCEPT;
 /** Calls accion for every element in position order.
- * The action may change the element in place; calls that would free the array or change its count
- * are refused while it runs.
+ * The action may change the element in place; calls that would free the array or move, free or
+ * shorten its rows are refused while it runs.
  * @param array the array
  * @param accion called with each element's address and datos
  * @param datos handed to every call of accion
  * @param ubicacion the caller's module, named in a report of a walk already running
  * @param linea the caller's line, likewise
  * @par Reports, besides the checks of the handle
- *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
- *     running */
+ *   - "en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already running
+ *     (this one still runs) */
 ARRAYS_API void arr_nousar_RecorreULong64(ARRAY *array, arr_accion_ULong64 accion, void *datos,
                                           const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /** @} */
@@ -2126,51 +2128,83 @@ ARRAYS_API void arr_ReduceTamanyoDouble(ARRAY *array, arr_ulong_t nuevo_tamanyo)
  * @return their sum; 0 for an empty array */
 ARRAYS_API double arr_SumatorioDouble(const ARRAY *array) ARR_NOEXCEPT;
 /** Calls accion for every element in position order.
- * The action may change the element in place; calls that would free the array or change its count
- * are refused while it runs.
+ * The action may change the element in place; calls that would free the array or move, free or
+ * shorten its rows are refused while it runs.
  * @param array the array
  * @param accion called with each element's address and datos
  * @param datos handed to every call of accion
  * @param ubicacion the caller's module, named in a report of a walk already running
  * @param linea the caller's line, likewise
  * @par Reports, besides the checks of the handle
- *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
- *     running */
+ *   - "en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already running
+ *     (this one still runs) */
 ARRAYS_API void arr_nousar_RecorreDouble(ARRAY *array, arr_accion_Double accion, void *datos,
                                          const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /** @} */
 /* @fin escalares */
 
-/* Reverses the order of the elements in place (the values are not negated). */
+/** Reverses the order of the elements of a BOOL array in place (the values are not negated).
+ * @param array the array
+ * @ingroup familia_BOOL */
 ARRAYS_API void arr_InvertirBOOL(ARRAY *array) ARR_NOEXCEPT;
 
-/* The smallest and the greatest element and their first positions, written through the pointers
- * that are not NULL. An empty array is reported ("array->num_elems > 0"); it, and an array of
- * NaNs only, give DBL_MAX, -DBL_MAX and ARR_ULONG_MAX for both positions. */
+/** The smallest and the greatest element of a Double array and their first positions.
+ * An empty array, and an array of NaNs only, give DBL_MAX, -DBL_MAX and ARR_ULONG_MAX for both
+ * positions. Every output may be NULL.
+ * @param array the array
+ * @param minimo gets the smallest element
+ * @param pos_minimo gets its first position
+ * @param maximo gets the greatest element
+ * @param pos_maximo gets its first position
+ * @par Reports, besides the checks of the handle
+ *   - "array->num_elems > 0" for an empty array
+ * @ingroup familia_Double */
 ARRAYS_API void arr_MinimoMaximoDouble(const ARRAY *array, double *minimo, arr_ulong_t *pos_minimo,
                                        double *maximo, arr_ulong_t *pos_maximo) ARR_NOEXCEPT;
 
-/* TRUE when both arrays have the same count and no pair of elements at the same position
- * differs by more than `tolerancia` (a NaN difference counts as equal). */
+/** Compares two Double arrays within a tolerance.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @param tolerancia the greatest difference allowed between two elements at one position
+ * @return CIERTO when both have the same count and no pair of elements at the same position
+ *   differs by more than tolerancia (a NaN difference counts as equal)
+ * @ingroup familia_Double */
 ARRAYS_API arr_bool_t arr_SonIgualesDoubleConTolerancia(const ARRAY *array1, const ARRAY *array2,
                                                         double tolerancia) ARR_NOEXCEPT;
-/* The same for two pointer arrays (arr_CreaPunteroConTipo) whose elements are Double arrays,
- * compared pair by pair up to the first unequal pair. */
+/** Compares, within a tolerance, two pointer arrays (arr_CreaPunteroConTipo) whose elements are
+ * Double arrays, pair by pair up to the first unequal pair.
+ * @param array1 the first pointer array
+ * @param array2 the second pointer array
+ * @param tolerancia as in arr_SonIgualesDoubleConTolerancia
+ * @return CIERTO when both have the same count and every pair of Double arrays is equal within
+ *   tolerancia
+ * @ingroup familia_Double */
 ARRAYS_API arr_bool_t arr_SonIgualesArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
                                                                      const ARRAY *array2,
                                                                double tolerancia) ARR_NOEXCEPT;
-/* The same one level deeper: pointer arrays whose elements are such pointer arrays. */
+/** The same one level deeper: pointer arrays whose elements are such pointer arrays.
+ * @param array1 the first pointer array
+ * @param array2 the second pointer array
+ * @param tolerancia as in arr_SonIgualesDoubleConTolerancia
+ * @return CIERTO when both have the same count and every pair of their elements is equal as
+ *   arr_SonIgualesArrPunteroArrDoubleConTolerancia tells
+ * @ingroup familia_Double */
 ARRAYS_API arr_bool_t arr_SonIgualesArrArrPunteroArrDoubleConTolerancia(const ARRAY *array1,
                                                                         const ARRAY *array2,
                                                                   double tolerancia) ARR_NOEXCEPT;
 
-/* Turns every price of a Double array from pesetas into euros (divided by 166.386), rounded to
- * two decimals. */
+/** Turns every price of a Double array from pesetas into euros (divided by 166.386), rounded
+ * to two decimals.
+ * @param array the array
+ * @ingroup familia_Double */
 ARRAYS_API void arr_cambio_precio_pesetas_a_euros(ARRAY *array) ARR_NOEXCEPT;
 
 /* ---- The shared functions under the names of the other families ------------------------- */
 
 /* @generado compartidas: tools/genera_interfaz.py writes what follows from tools/familias.py */
+/** @defgroup compartidas Shared functions under the other families' names
+ * Destroy, count, copy, concatenate, grow and shrink: one function each.
+ * @{ */
 /** The same function as arr_DestruyeDouble, under the name of the BIT arrays.
  * @param array the address of the handle, which is set to NULL
  * @par Reports, besides the checks of the handle
@@ -2428,30 +2462,49 @@ ARRAYS_API void arulong_reduce_tamanyo(ARRAY *array, arr_ulong_t nuevo_tamanyo) 
  *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
  *     array, which is then left as it was */
 ARRAYS_API void arulong64_reduce_tamanyo(ARRAY *array, arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
+/** @} */
 /* @fin compartidas */
 
 /* ---- Bit arrays --------------------------------------------------------------------------- */
 
-/*
+/**
+ * @defgroup familia_BIT Bit arrays
  * Arrays of single bits, packed eight to a byte: bit pos is bit pos % 8 (from the least
  * significant) of byte pos / 8. A bit is passed as a BOOL (any non-zero value sets it) and read
  * back as 1 or 0. arr_NumElemsBIT counts bits. Destruction, count, copy, growth and shrinking
  * are the shared functions (arr_DestruyeBIT, arr_NumElemsBIT, arr_CopiaBIT,
  * arr_AumentaTamanyoBIT, arr_ReduceTamanyoBIT); bits have no insert, delete, search, sort,
  * comparison or concatenation.
+ * @{
  */
 
-/* A new array of n false bits. */
+/** Creates an array of n false bits.
+ * @param n how many bits it starts with
+ * @return the new array, to be destroyed with arr_DestruyeBIT */
 ARRAYS_API ARRAY *arr_CreaBIT(arr_ulong_t n) ARR_NOEXCEPT;
-/* The bit at pos: 1 or 0. A pos not below the bit count is reported ("pos < array->num_bits");
- * the byte that would hold it is still read when it exists. */
+/** Reads the bit at pos.
+ * @param array the array
+ * @param pos the bit's position, from 0
+ * @return 1 or 0; a pos past the bit count still reads the byte that would hold it when it exists
+ * @par Reports, besides the checks of the handle
+ *   - "pos < array->num_bits" for a pos not below the bit count */
 ARRAYS_API arr_bool_t arr_GetBIT(const ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
-/* Sets the bit at pos for a non-zero valor, clears it for FALSO; pos as in arr_GetBIT. */
+/** Sets the bit at pos for a non-zero valor, clears it for FALSO.
+ * @param array the array
+ * @param pos the bit's position, from 0
+ * @param valor the bit
+ * @par Reports, besides the checks of the handle
+ *   - "pos < array->num_bits" for a pos not below the bit count */
 ARRAYS_API void arr_SetBIT(ARRAY *array, arr_ulong_t pos, arr_bool_t valor) ARR_NOEXCEPT;
-/* Appends one bit. */
+/** Appends one bit.
+ * @param array the array
+ * @param valor the bit: set for any non-zero value */
 ARRAYS_API void arr_AppendBIT(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
-/* Sets every bit (whole bytes, so also the spare bits of the last byte) to valor. */
+/** Sets every bit (whole bytes, so also the spare bits of the last byte) to valor.
+ * @param array the array
+ * @param valor the bit: set for any non-zero value */
 ARRAYS_API void arr_InicializaBIT(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
+/** @} */
 
 /* ---- The arulong and arulong64 names ------------------------------------------------------ */
 
@@ -2463,6 +2516,9 @@ ARRAYS_API void arr_InicializaBIT(ARRAY *array, arr_bool_t valor) ARR_NOEXCEPT;
  * as its arr_ twin, except arulong_crea and arulong_append_n.
  */
 /* @generado arulong: tools/genera_interfaz.py writes what follows from tools/familias.py */
+/** @defgroup segundos_nombres The arulong and arulong64 names
+ * The ULong and ULong64 families under second, lower-case names.
+ * @{ */
 /** Creates an empty ULong array, as arr_CreaULong(0) does.
  * @return the new array, to be destroyed with arulong_destruye */
 ARRAYS_API ARRAY *arulong_crea(void) ARR_NOEXCEPT;
@@ -2670,6 +2726,7 @@ ARRAYS_API void arulong64_qsort(ARRAY *array, arr_orden_ULong64 comparador) ARR_
  *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
  *   - the handle and tag checks of each array */
 ARRAYS_API arr_bool_t arulong64_iguales(ARRAY *array1, ARRAY *array2) ARR_NOEXCEPT;
+/** @} */
 /* @fin arulong */
 
 /* ---- Narrow and wide string arrays ---------------------------------------------------------- */
@@ -2888,8 +2945,8 @@ ARRAYS_API char *arr_cadena_de_referencias(ARRAY *array, char inicio, char separ
  * @param ubicacion the caller's module, named in a report of a walk already running
  * @param linea the caller's line, likewise
  * @par Reports, besides the checks of the handle
- *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
- *     running */
+ *   - "en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already running
+ *     (this one still runs) */
 ARRAYS_API void nousar_RecorreCADENA(ARRAY *array, arr_accion_CADENA accion, void *datos,
                                      const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /** Finds the first element equal to cadena, compared exactly.
@@ -3153,8 +3210,8 @@ ARRAYS_API arr_wchar_t *arr_cadena_de_referencias_u(ARRAY *array, arr_wchar_t in
  * @param ubicacion the caller's module, named in a report of a walk already running
  * @param linea the caller's line, likewise
  * @par Reports, besides the checks of the handle
- *   - "array->en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already
- *     running */
+ *   - "en_bucle == FALSO" naming ubicacion and linea when a walk of this array is already running
+ *     (this one still runs) */
 ARRAYS_API void nousar_RecorreCADENA_u(ARRAY *array, arr_accion_CADENA_u accion, void *datos,
                                        const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
 /** Finds the first element equal to cadena, compared exactly.
@@ -3285,548 +3342,1796 @@ ARRAYS_API arr_bool_t arr_ExisteUnicaMayMinCADENA_u(ARRAY *array, const arr_wcha
 /** @} */
 /* @fin cadenas */
 
-/* The narrow growth; see above. */
+/** Grows a narrow string array to nuevo_tamanyo elements, each new one a copy of "".
+ * (arr_AumentaTamanyoCADENA_u is the shared growth: its new elements are NULL.)
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @return the new count
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo > num_elems_ant" for a size not above the count
+ * @ingroup familia_CADENA */
 ARRAYS_API arr_ulong_t arr_AumentaTamanyoCADENA(ARRAY *array,
                                                 arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
 
 /* ---- Typed pointer and structure arrays ----------------------------------------------------- */
-/*
+/** @defgroup familia_PunteroConTipo Typed pointer and structure arrays
  * Arrays whose elements are untyped pointers to the caller's own data (tag elem_PUNTERO_NO_USAR).
- * Used as plain pointer arrays (the Puntero functions never free what the elements point to) or
- * as owning structure arrays (the Estructura functions free through the caller's `libera` and
- * copy through the caller's copy function). The Array forms work on an array of arrays: a
- * pointer array whose elements are structure arrays. A NULL element is allowed everywhere.
+ * They serve as plain pointer arrays (the Puntero functions never free what the elements point
+ * to) or as owning structure arrays (the Estructura functions free through the caller's `libera`
+ * and copy through the caller's copy function). The Array forms work on an array of arrays: a
+ * pointer array whose elements are structure arrays.
+ *
+ * A NULL element may be stored anywhere. It is handed to the callbacks like any other element,
+ * so `libera` and the copy function must accept it. In an array of arrays, destruction,
+ * shrinking, copying and concatenation pass over a NULL inner array; deleting one reports
+ * "(*array) != NULL", and arr_SonIgualesEstructurasArrayConTipo counts a pair of them as unequal.
+ *
  * A plain pointer array must be emptied, or its elements set to NULL, before
- * arr_DestruyePunteroConTipo, which reports every pointer still set ("ptr == NULL").
- * The Const forms do the same as their plain twins, for callers holding pointers to constant data.
- * Shared with every family (declared above): arr_DestruyePunteroConTipo (destroy, pointers must
- * be NULL) and arr_AumentaTamanyoEstructurasConTipo (grow; new elements are NULL).
- */
+ * arr_DestruyePunteroConTipo, which reports every pointer still set ("ptr == NULL") and frees the
+ * array all the same. The Const forms are their plain twins for callers holding pointers to
+ * constant data; where the plain form takes `libera` or a copy function, the Const form acts as
+ * if it were NULL. A report "en_bucle == FALSO" naming a walk already running is made only while
+ * the lenient loop-guard check is on (arrayprv_set_comprobar_en_bucle).
+ *
+ * Shared with every family (declared above): arr_DestruyePunteroConTipo (destroy; the pointers
+ * must be NULL) and arr_AumentaTamanyoEstructurasConTipo (grow; the new elements are NULL, except
+ * that a slot cut off by an earlier shrink that did not clear it, such as
+ * arr_ReduceTamanyoEstructurasConTipoConst, may come back holding its old pointer).
+ * @{ */
 
-/* Equality of a search: the element (stored pointer) against the caller's datum; non-zero if equal. */
+/** Equality of a linear search and of the comparison of two arrays: non-zero when equal.
+ * The searches (arr_BuscarEstructuraConTipo and the rest) call it with a stored pointer and the
+ * caller's datum; arr_SonIgualesPunteroConTipo with an element of array1 and the element of
+ * array2 at the same position. */
 typedef arr_bool_t (*arr_igualdad_PunteroConTipo)(const void *elemento, const void *dato);
-/* Order of the sort (two elements) and of the bisection (element, datum): comparac_*. */
+/** Order of arr_QSortPunteroConTipo, called with two stored pointers (two identical pointers are
+ * equal without a call), and of the ordered search by bisection, called with a stored pointer and
+ * the caller's datum: comparac_PRIMERO_MENOR, comparac_IGUALES or comparac_PRIMERO_MAYOR. */
 typedef int (*arr_orden_PunteroConTipo)(const void *a, const void *b);
-/* Frees the structure in the slot (which may hold NULL) and sets the slot to NULL. */
+/** Release of a structure, called by the Estructura functions that destroy, shrink or delete with
+ * the address of a slot, which may hold NULL: it frees the structure and sets the slot to NULL. */
 typedef void (*arr_libera_EstructuraConTipo)(void **elemento);
-/* A new structure equal to the element (which may be NULL), owned by the receiving array. */
+/** Copy of a structure, called by the copy and concatenation functions with each element, which
+ * may be NULL: it returns a new structure equal to it (or NULL), which the receiving array then
+ * holds and owns. */
 typedef void *(*arr_copia_EstructuraConTipo)(const void *elemento);
-/* Actions of the traversals: the stored pointer; its address and the caller's datos; the stored
- * pointer and datos. The BOOL result is ignored. */
+/** Action of arr_RecorrePunteroConTipo: the stored pointer. */
 typedef void (*arr_opera_PunteroConTipo)(void *elemento);
+/** Action of arr_RecorreEstructuraConTipo: the address of the slot, through which it may replace
+ * the stored pointer, and the caller's datos; the result is ignored. */
 typedef arr_bool_t (*arr_accion_PunteroConTipo)(void **elemento, void *datos);
+/** Action of arr_RecorreEstructuraSimpleConTipo: the stored pointer and the caller's datos. */
 typedef void (*arr_accion_EstructuraSimpleConTipo)(void *elemento, void *datos);
 
-/* A pointer array of n NULL elements in rows of long_fila_en_bytes bytes (a row holds
- * long_fila_en_bytes / 8 pointers, which must be above 0); arr_CreaPunteroConTipo uses 2048. */
+/** Creates a pointer array of n NULL elements in rows of long_fila_en_bytes bytes.
+ * A row holds long_fila_en_bytes / sizeof(void *) pointers, which must be above 0;
+ * arr_CreaPunteroConTipo uses 2048 bytes.
+ * @param n how many NULL elements it starts with
+ * @param long_fila_en_bytes the size of a row in bytes
+ * @return the new array, to be destroyed with arr_DestruyePunteroConTipo or one of the
+ *   arr_DestruyeEstructuras functions
+ * @par Reports
+ *   - "array->long_max_fila_en_elem > 0" when a row cannot hold a pointer; the array is then
+ *     created empty and never holds an element (appends and growth add nothing, unreported) */
 ARRAYS_API ARRAY *arr_CreaPunteroConTipoEx(arr_ulong_t n,
                                            arr_ulong_t long_fila_en_bytes) ARR_NOEXCEPT;
+/** Creates a pointer array of n NULL elements in rows of 2048 bytes.
+ * @param n how many NULL elements it starts with
+ * @return the new array, to be destroyed with arr_DestruyePunteroConTipo or one of the
+ *   arr_DestruyeEstructuras functions */
 ARRAYS_API ARRAY *arr_CreaPunteroConTipo(arr_ulong_t n) ARR_NOEXCEPT;
 
-/* Destroys a structure array: calls libera (if not NULL) on every slot in order, NULL slots
- * included, then frees the array and sets *array to NULL. The Const form frees no structure. */
+/** Destroys a structure array, freeing its structures through libera.
+ * Calls libera (if not NULL) on every slot in position order, NULL slots included, with the array
+ * marked busy; then frees the array and sets *array to NULL. Pointers still set are not reported.
+ * @param array the address of the handle, which is set to NULL
+ * @param libera frees the structure in a slot; NULL frees none
+ * @par Reports, besides the checks of the handle
+ *   - "(array) != NULL" for a NULL address
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->tipo_elem == elem_PUNTERO_NO_USAR" for an array of another type, which it then
+ *     leaves alive
+ *   - "(*array)->en_bucle == FALSO" or "(*array)->en_bucle_lectura == FALSO" from inside a walk of
+ *     this array, which it then leaves alive */
 ARRAYS_API void arr_DestruyeEstructurasConTipo(ARRAY **array,
                                                arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
+/** Destroys a structure array without freeing any structure.
+ * Unlike arr_DestruyePunteroConTipo, it does not report the pointers still set.
+ * @param array the address of the handle, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - those of arr_DestruyeEstructurasConTipo */
 ARRAYS_API void arr_DestruyeEstructurasConstConTipo(ARRAY **array) ARR_NOEXCEPT;
-/* Destroys an array of arrays: each non-NULL inner array with arr_DestruyeEstructurasConTipo and
- * libera (the Const form: with no libera), then the outer array. */
+/** Destroys an array of arrays and every inner array.
+ * Each non-NULL inner array, in position order and with the outer array marked busy, is destroyed
+ * as by arr_DestruyeEstructurasConTipo with libera, and its slot set to NULL; then the outer array
+ * is freed. An inner array that cannot be destroyed is reported by that function's texts and left
+ * as it is.
+ * @param array_de_arrays the address of the handle of the outer array, which is set to NULL
+ * @param libera frees the structure in a slot of an inner array; NULL frees none
+ * @par Reports, besides the checks of the handle
+ *   - "(array_de_arrays) != NULL" for a NULL address
+ *   - "(*array) != NULL" for a NULL handle
+ *   - "(*array)->tipo_elem == elem_PUNTERO_NO_USAR" for an outer array of another type, which it
+ *     then leaves alive
+ *   - "(*array)->en_bucle == FALSO" or "(*array)->en_bucle_lectura == FALSO" from inside a walk of
+ *     the outer array, which it then leaves alive */
 ARRAYS_API void arr_DestruyeEstructurasArrayConTipo(ARRAY **array_de_arrays,
                                                     arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
+/** Destroys an array of arrays and every inner array, without freeing any structure.
+ * @param array_de_arrays the address of the handle of the outer array, which is set to NULL
+ * @par Reports, besides the checks of the handle
+ *   - those of arr_DestruyeEstructurasArrayConTipo */
 ARRAYS_API void arr_DestruyeEstructurasConstArrayConTipo(ARRAY **array_de_arrays) ARR_NOEXCEPT;
 
-/* Append, insert before pos (pos == count appends) and overwrite at pos; an overwritten pointer
- * is not freed. */
+/** Appends puntero after the last element.
+ * @param array the array
+ * @param puntero the pointer, stored as it is; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
 ARRAYS_API void arr_AppendPunteroConTipo(ARRAY *array, void *puntero) ARR_NOEXCEPT;
+/** Appends puntero, a pointer to constant data, after the last element.
+ * @param array the array
+ * @param puntero the pointer, stored as it is; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
 ARRAYS_API void arr_AppendPunteroConstConTipo(ARRAY *array, const void *puntero) ARR_NOEXCEPT;
+/** Inserts puntero before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param puntero the pointer, stored as it is; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a pos beyond the count, after "array->num_elems > 0" when
+ *     the array is empty
+ *   - "long_fila_vieja > 0 && long_fila_nueva > 0" for an insertion before an element of an array
+ *     whose rows hold one pointer each (the pointer is still inserted)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
 ARRAYS_API void arr_InsertarPunteroConTipo(ARRAY *array, arr_ulong_t pos,
                                            void *puntero) ARR_NOEXCEPT;
+/** Inserts puntero, a pointer to constant data, before the element at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param puntero the pointer, stored as it is; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - those of arr_InsertarPunteroConTipo */
 ARRAYS_API void arr_InsertarPunteroConstConTipo(ARRAY *array, arr_ulong_t pos,
                                                 const void *puntero) ARR_NOEXCEPT;
+/** Overwrites the element at pos; the pointer it held is not freed.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param puntero the new pointer; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element, after
+ *     "array->num_elems > 0" when the array is empty
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" while a walk has marked
+ *     this array busy or as being read (the write is made) */
 ARRAYS_API void arr_SetPunteroConTipo(ARRAY *array, arr_ulong_t pos, void *puntero) ARR_NOEXCEPT;
+/** Overwrites the element at pos with a pointer to constant data; the old one is not freed.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param puntero the new pointer; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - those of arr_SetPunteroConTipo */
 ARRAYS_API void arr_SetPunteroConstConTipo(ARRAY *array, arr_ulong_t pos,
                                            const void *puntero) ARR_NOEXCEPT;
-/* Stores an inner array at pos of an array of arrays (arr_SetPunteroConstConTipo). */
+/** Stores an inner array at pos of an array of arrays, as arr_SetPunteroConstConTipo does.
+ * The inner array is neither checked nor copied, and the one stored there before is not destroyed.
+ * @param array_de_arrays the array of arrays
+ * @param pos the position, from 0
+ * @param array the inner array; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(array) != NULL" for a NULL array_de_arrays
+ *   - the others of arr_SetPunteroConTipo */
 ARRAYS_API void arr_SetPunteroConstArrayConTipo(ARRAY *array_de_arrays, arr_ulong_t pos,
                                                 const ARRAY *array) ARR_NOEXCEPT;
-/* The pointer stored at pos; NULL when there is no such element. */
+/** Reads the pointer stored at pos.
+ * @param array the array
+ * @param pos the position, from 0
+ * @return the pointer, which may itself be NULL; NULL also when there is no such element or
+ *   the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element, after
+ *     "array->num_elems > 0" when the array is empty */
 ARRAYS_API void *arr_GetPunteroConTipo(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
-/* Removes the element at pos without freeing it (one function under both names). */
+/** Deletes the element at pos without freeing what it points to; the later ones move down by one
+ * (one function under both names).
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without element, after
+ *     "array->num_elems > 0" when the array is empty
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
 ARRAYS_API void arr_BorrarPuntero(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
+/** Deletes the element at pos without freeing it: the same function as arr_BorrarPuntero.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - those of arr_BorrarPuntero */
 ARRAYS_API void arr_BorrarPunteroConst(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
-/* Frees the structure at pos through libera (required), then removes the element. */
+/** Frees the structure at pos through libera, then deletes the element.
+ * libera is called on the slot without the array being marked busy.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param libera frees the structure in the slot; required
+ * @par Reports, besides the checks of the handle
+ *   - "(libera) != NULL" for a NULL libera (the element is deleted without being freed)
+ *   - "real_pos < array->num_elems" for a position without element, after
+ *     "array->num_elems > 0" when the array is empty (nothing changes)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array: the structure is freed all the same, but the element stays, holding what libera left
+ *     in the slot */
 ARRAYS_API void arr_BorrarEstructuraConTipo(ARRAY *array, arr_ulong_t pos,
                                             arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
-/* Destroys the inner array at pos with arr_DestruyeEstructurasConTipo and libera (required),
- * then removes the element. */
+/** Destroys the inner array at pos as arr_DestruyeEstructurasConTipo does, then deletes the
+ * element.
+ * @param array_de_arrays the array of arrays
+ * @param pos the position, from 0
+ * @param libera frees the structure in a slot of the inner array; required
+ * @par Reports, besides the checks of the handle
+ *   - "(array) != NULL" for a NULL array_de_arrays
+ *   - "(libera) != NULL" for a NULL libera (the inner array is destroyed without freeing its
+ *     structures, and the element deleted)
+ *   - "real_pos < array->num_elems" for a position without element, after
+ *     "array->num_elems > 0" when the array is empty (nothing changes)
+ *   - "(*array) != NULL" for a NULL inner array, and the other reports of
+ *     arr_DestruyeEstructurasConTipo for the inner array; the element is deleted all the same
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of the
+ *     outer array: the inner array is destroyed all the same, but the element stays (NULL once
+ *     its inner array is destroyed) */
 ARRAYS_API void arr_BorrarEstructuraArrayConTipo(ARRAY *array_de_arrays, arr_ulong_t pos,
                                                  arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
 
-/* Shrinks to nuevo_tamanyo (at most the count): libera (if not NULL) is called on every slot cut
- * off; the Const form frees nothing. */
+/** Shrinks a structure array to its first nuevo_tamanyo elements.
+ * libera (if not NULL) is called on every slot cut off, in position order, with the array marked
+ * busy. Pointers cut off are not reported.
+ * @param array the array
+ * @param nuevo_tamanyo the new count, at most the present one
+ * @param libera frees the structure in a slot; NULL frees none
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo <= array->num_elems" for a count above the present one (nothing changes)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
 ARRAYS_API void arr_ReduceTamanyoEstructurasConTipo(ARRAY *array, arr_ulong_t nuevo_tamanyo,
                                                     arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
+/** Shrinks a structure array to its first nuevo_tamanyo elements, freeing nothing.
+ * Nothing clears the slots cut off: growing the array again may bring their pointers back (see
+ * arr_AumentaTamanyoEstructurasConTipo).
+ * @param array the array
+ * @param nuevo_tamanyo the new count, at most the present one
+ * @par Reports, besides the checks of the handle
+ *   - those of arr_ReduceTamanyoEstructurasConTipo */
 ARRAYS_API void arr_ReduceTamanyoEstructurasConTipoConst(ARRAY *array,
                                                          arr_ulong_t nuevo_tamanyo) ARR_NOEXCEPT;
-/* Shrinks an array of arrays: destroys each non-NULL inner array cut off, with libera. */
+/** Shrinks an array of arrays to its first nuevo_tamanyo elements.
+ * Each non-NULL inner array cut off is destroyed as by arr_DestruyeEstructurasConTipo with
+ * libera, with the outer array marked busy.
+ * @param array_de_arrays the array of arrays
+ * @param nuevo_tamanyo the new count, at most the present one
+ * @param libera frees the structure in a slot of an inner array; NULL frees none
+ * @par Reports, besides the checks of the handle
+ *   - "nuevo_tamanyo <= array->num_elems" for a count above the present one (nothing changes)
+ *   - the reports of arr_DestruyeEstructurasConTipo for an inner array it cannot destroy, which is
+ *     left as it is while its element is cut off
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of the
+ *     outer array, which is then left as it was */
 ARRAYS_API void arr_ReduceEstructurasArrayConTipo(ARRAY *array_de_arrays, arr_ulong_t nuevo_tamanyo,
                                                   arr_libera_EstructuraConTipo libera) ARR_NOEXCEPT;
 
-/* Position of the first element that is the same pointer (identity, never content), or
- * ARR_ULONG_MAX. */
+/** Finds the first element that is the same pointer as puntero (identity, never content).
+ * @param array the array
+ * @param puntero the pointer looked for; NULL finds the first NULL element
+ * @return its position, or ARR_ULONG_MAX when there is none */
 ARRAYS_API arr_ulong_t arr_BuscarPunteroConTipo(ARRAY *array, const void *puntero) ARR_NOEXCEPT;
-/* Position of the first element from 0 (from pos_inicial) for which igualdad(element, dato)
- * holds, or ARR_ULONG_MAX. The Unica forms report a second match and yield the last one. */
+/** Finds the first element for which igualdad(element, dato) holds.
+ * The array is marked as being read while igualdad runs.
+ * @param array the array
+ * @param dato the caller's datum, handed to igualdad
+ * @param igualdad non-zero when the element matches dato; required
+ * @return its position, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "(fnc_compara->fnc_compara_puntero) != NULL" for a NULL igualdad (ARR_ULONG_MAX then) */
 ARRAYS_API arr_ulong_t arr_BuscarEstructuraConTipo(ARRAY *array, const void *dato,
                                              arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+/** Finds the first element from pos_inicial on for which igualdad(element, dato) holds.
+ * @param array the array
+ * @param pos_inicial where the search starts (that element included); the count finds nothing
+ * @param dato the caller's datum, handed to igualdad
+ * @param igualdad non-zero when the element matches dato; required
+ * @return its position, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "pos_inicial == array->num_elems" for a pos_inicial beyond the count (ARR_ULONG_MAX then)
+ *   - "(fnc_compara->fnc_compara_puntero) != NULL" for a NULL igualdad (ARR_ULONG_MAX then) */
 ARRAYS_API arr_ulong_t arr_BuscarSiguienteEstructuraConTipo(ARRAY *array, arr_ulong_t pos_inicial,
                                                             const void *dato,
                                                       arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+/** Finds the element for which igualdad(element, dato) holds, which should be the only one.
+ * @param array the array
+ * @param dato the caller's datum, handed to igualdad
+ * @param igualdad non-zero when the element matches dato; required
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first
+ *   - "(fnc_compara->fnc_compara_puntero) != NULL" for a NULL igualdad (ARR_ULONG_MAX then) */
 ARRAYS_API arr_ulong_t arr_BuscarUnicaEstructuraConTipo(ARRAY *array, const void *dato,
                                                   arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-/* Found? posicion (if not NULL) gets the position or ARR_ULONG_MAX. */
+/** Tells whether an element matches dato under igualdad, and where the first one is.
+ * @param array the array
+ * @param dato the caller's datum, handed to igualdad
+ * @param igualdad non-zero when the element matches dato; required
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does
+ * @par Reports, besides the checks of the handle
+ *   - "(fnc_compara->fnc_compara_puntero) != NULL" for a NULL igualdad (FALSO then) */
 ARRAYS_API arr_bool_t arr_ExisteEstructuraConTipo(ARRAY *array, const void *dato,
                                                   arr_igualdad_PunteroConTipo igualdad,
                                                   arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether an element matches dato under igualdad, which should be the only one.
+ * @param array the array
+ * @param dato the caller's datum, handed to igualdad
+ * @param igualdad non-zero when the element matches dato; required
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first
+ *   - "(fnc_compara->fnc_compara_puntero) != NULL" for a NULL igualdad (FALSO then) */
 ARRAYS_API arr_bool_t arr_ExisteUnicaEstructuraConTipo(ARRAY *array, const void *dato,
                                                        arr_igualdad_PunteroConTipo igualdad,
                                                        arr_ulong_t *posicion) ARR_NOEXCEPT;
-/* The element of the unique match (one function under both names); a missing match is
- * reported ("posicion != ULONG_MAX") and yields NULL. */
+/** The element for which igualdad(element, dato) holds, which should be the only one (one
+ * function under both names).
+ * @param array the array
+ * @param dato the caller's datum, handed to igualdad
+ * @param igualdad non-zero when the element matches dato; required
+ * @return the pointer stored at the last match; NULL when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first
+ *   - "posicion != ULONG_MAX" and then "real_pos < array->num_elems" when nothing matches (with
+ *     "array->num_elems > 0" between them when the array is empty)
+ *   - "(fnc_compara->fnc_compara_puntero) != NULL" for a NULL igualdad, followed by the two
+ *     reports of a missing match */
 ARRAYS_API void *nousar_arr_dame_unica_estructura(ARRAY *array, const void *dato,
                                                   arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
+/** The element of the unique match: the same function as nousar_arr_dame_unica_estructura.
+ * @param array the array
+ * @param dato the caller's datum, handed to igualdad
+ * @param igualdad non-zero when the element matches dato; required
+ * @return the pointer stored at the last match; NULL when there is none
+ * @par Reports, besides the checks of the handle
+ *   - those of nousar_arr_dame_unica_estructura */
 ARRAYS_API void *nousar_arr_dame_unica_estructura_const(ARRAY *array, const void *dato,
                                                         arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
 
-/* Sorts in place with compara (required from 2 elements on); fewer than 2 elements: nothing. */
+/** Sorts the array in place by the library's quicksort under compara (one function under both
+ * names).
+ * With fewer than 2 elements it does nothing: compara is neither checked nor called.
+ * @param array the array
+ * @param compara the order of two stored pointers (comparac_* results); required from 2 elements
+ * @par Reports, besides the checks of the handle
+ *   - "(func_compara_puntero) != NULL" for a NULL compara (nothing is sorted)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" while a walk has marked
+ *     this array busy or as being read (the sort is made) */
 ARRAYS_API void arr_QSortPunteroConTipo(ARRAY *array,
                                         arr_orden_PunteroConTipo compara) ARR_NOEXCEPT;
+/** Sorts the array in place: the same function as arr_QSortPunteroConTipo.
+ * @param array the array
+ * @param compara the order of two stored pointers (comparac_* results); required from 2 elements
+ * @par Reports, besides the checks of the handle
+ *   - those of arr_QSortPunteroConTipo */
 ARRAYS_API void arr_QSortPunteroConTipoConst(ARRAY *array,
                                              arr_orden_PunteroConTipo compara) ARR_NOEXCEPT;
-/* Same count and igualdad(element of array1, element of array2) at every position. */
+/** Compares two pointer arrays element by element under igualdad.
+ * igualdad(element of array1, element of array2) is called in position order up to the first
+ * unequal pair.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @param igualdad non-zero when two elements are equal; required
+ * @return CIERTO when they have the same count and igualdad holds at every position; FALSO for a
+ *   NULL igualdad, even between two empty arrays
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - "array1->tipo_elem == tipo_elem && array2->tipo_elem == tipo_elem" for an array of another
+ *     type
+ *   - "(fnc_compara->fnc_compara_puntero) != NULL" for a NULL igualdad
+ *   - "en_bucle == FALSO" for an array inside a walk that marked it busy (the comparison is
+ *     made) */
 ARRAYS_API arr_bool_t arr_SonIgualesPunteroConTipo(ARRAY *array1, ARRAY *array2,
                                              arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
-/* Same count and arr_SonIgualesPunteroConTipo of every pair of inner arrays. */
+/** Compares two arrays of arrays: the same count, and arr_SonIgualesPunteroConTipo with igualdad
+ * for every pair of inner arrays, in position order up to the first unequal pair.
+ * @param array1 the first array of arrays
+ * @param array2 the second array of arrays
+ * @param igualdad non-zero when two elements of inner arrays are equal; required for the pairs
+ *   compared
+ * @return CIERTO when they have the same count and every pair of inner arrays is equal (so two
+ *   empty arrays of arrays are, whatever igualdad)
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle
+ *   - "array1->tipo_elem == elem_PUNTERO_NO_USAR" or "array2->tipo_elem == elem_PUNTERO_NO_USAR"
+ *     for an array of another type
+ *   - the reports of arr_SonIgualesPunteroConTipo for each pair compared; a NULL inner array is
+ *     reported there as "(array1) != NULL" or "(array2) != NULL", and the pair is unequal */
 ARRAYS_API arr_bool_t arr_SonIgualesEstructurasArrayConTipo(ARRAY *array1, ARRAY *array2,
                                                       arr_igualdad_PunteroConTipo igualdad) ARR_NOEXCEPT;
 
-/* A new array whose elements are copia(element) (copia NULL: the same pointers). */
+/** Copies a structure array: a new array whose elements are copia(element).
+ * copia is called for every element in position order, NULL ones included, without the array
+ * being marked busy.
+ * @param array the array
+ * @param copia copies a structure; NULL stores the same pointers
+ * @return the new array, of the same count; NULL when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "array->tipo_elem == elem_PUNTERO_NO_USAR" for an array of another type (NULL then) */
 ARRAYS_API ARRAY *arr_CopiaEstructurasConTipo(const ARRAY *array,
                                               arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
-/* A new array of arrays of the same count: the copy of each inner array, NULL where it is NULL. */
+/** Copies an array of arrays: a new array of the same count holding the copy of each inner array
+ * made by arr_CopiaEstructurasConTipo with copia, and NULL where the inner array is NULL.
+ * @param array_de_arrays the array of arrays
+ * @param copia copies a structure; NULL stores the same pointers in the inner copies
+ * @return the new array of arrays; NULL when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "array->tipo_elem == elem_PUNTERO_NO_USAR" for an array of arrays of another type (NULL
+ *     then), or for an inner array of another type (whose copy is then NULL) */
 ARRAYS_API ARRAY *arr_CopiaEstructurasArrayConTipo(const ARRAY *array_de_arrays,
                                                    arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
-/* Appends to dest copia(element) (copia NULL or the Const form: the element itself) of every
- * element of org, which is marked as being read meanwhile; ubicacion and linea name the caller
- * in a report of a traversal of org already running. */
+/** Appends to dest copia(element) of every element of org, in position order.
+ * org is walked as it stood on entry and marked as being read meanwhile; copia is called for NULL
+ * elements too.
+ * @param dest the array that grows
+ * @param org the array whose elements are copied; it is left as it was
+ * @param copia copies a structure; NULL appends the elements themselves
+ * @param ubicacion the caller's module, named in a report of a walk of org already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "(org) != NULL", "(dest) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == elem_PUNTERO_NO_USAR && dest->tipo_elem == elem_PUNTERO_NO_USAR" when
+ *     either is of another type (nothing changes)
+ *   - "dest != org" when both are the same array (nothing changes)
+ *   - "dest->en_bucle == FALSO" or "dest->en_bucle_lectura == FALSO" from inside a walk of dest,
+ *     which is then left as it was
+ *   - "en_bucle == FALSO" naming ubicacion and linea while a walk that marked it busy is running
+ *     over org (the concatenation is made) */
 ARRAYS_API void arr_ConcatenaEstructurasConTipo(ARRAY *dest, ARRAY *org,
                                                 arr_copia_EstructuraConTipo copia,
                                                 const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** Appends to dest every element of org itself, in position order.
+ * @param dest the array that grows
+ * @param org the array whose elements are appended; it is left as it was
+ * @param ubicacion the caller's module, named in a report of a walk of org already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - those of arr_ConcatenaEstructurasConTipo */
 ARRAYS_API void arr_ConcatenaEstructurasConTipoConst(ARRAY *dest, ARRAY *org, const char *ubicacion,
                                                      arr_long_t linea) ARR_NOEXCEPT;
-/* Appends to dest a copy of each non-NULL inner array of org (NULL ones are skipped). */
+/** Appends to dest a copy of each non-NULL inner array of org_de_arrays, made by
+ * arr_CopiaEstructurasConTipo with copia; NULL inner arrays are skipped.
+ * org_de_arrays is walked as it stood on entry.
+ * @param dest the array of arrays that grows
+ * @param org_de_arrays the array of arrays whose inner arrays are copied; it is left as it was
+ * @param copia copies a structure; NULL stores the same pointers in the inner copies
+ * @par Reports, besides the checks of the handle
+ *   - "(org) != NULL", "(dest) != NULL" and their marks for a NULL or dead handle
+ *   - "org->tipo_elem == elem_PUNTERO_NO_USAR && dest->tipo_elem == elem_PUNTERO_NO_USAR" when
+ *     either is of another type (nothing changes)
+ *   - "array->tipo_elem == elem_PUNTERO_NO_USAR" for an inner array of another type, whose copy
+ *     is appended as NULL
+ *   - "dest->en_bucle == FALSO" or "dest->en_bucle_lectura == FALSO" from inside a walk of dest,
+ *     which is then left as it was */
 ARRAYS_API void arr_ConcatenaEstructurasArrayConTipo(ARRAY *dest, ARRAY *org_de_arrays,
                                                      arr_copia_EstructuraConTipo copia) ARR_NOEXCEPT;
-/* Reverses the order of the elements in place. */
+/** Reverses the order of the elements in place.
+ * With fewer than 2 elements it does nothing.
+ * @param array the array
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" for each element moved
+ *     while a walk has marked this array busy or as being read (the writes are made) */
 ARRAYS_API void arr_nousar_InvierteOrdenPunteroConTipo(ARRAY *array) ARR_NOEXCEPT;
 
-/* Traversals in position order with the array marked busy: accion(stored pointer);
- * accion(&element, datos) (ubicacion and linea name the caller in a report of a traversal
- * already running); accion(stored pointer, datos). */
+/** Calls accion with every stored pointer in position order.
+ * The walk covers the elements there on entry, with the array marked busy. An empty array calls
+ * nothing and checks nothing more. An array of 2D points with private data is walked too, accion
+ * then getting each point's private data.
+ * @param array the array
+ * @param accion called with each stored pointer; required unless the array is empty
+ * @par Reports, besides the checks of the handle
+ *   - "operacion" for a NULL accion
+ *   - "array->tipo_elem == elem_PUNTERO_NO_USAR || array->tipo_elem == elem_PUNTO2DX_NO_USAR" for
+ *     an array of another type */
 ARRAYS_API void arr_RecorrePunteroConTipo(ARRAY *array,
                                           arr_opera_PunteroConTipo accion) ARR_NOEXCEPT;
+/** Calls accion(&element, datos) for every element in position order.
+ * The walk covers the elements there on entry, with the array marked busy. The action may replace
+ * the stored pointer through the slot; calls that would free the array or change its count are
+ * refused while it runs.
+ * @param array the array
+ * @param accion called with each slot's address and datos; required
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "(fnc_accion->fnc_accion_puntero) != NULL" for a NULL accion
+ *   - "en_bucle == FALSO" naming ubicacion and linea while a walk that marked this array busy or
+ *     as being read is running (the walk is made) */
 ARRAYS_API void arr_RecorreEstructuraConTipo(ARRAY *array, arr_accion_PunteroConTipo accion,
                                              void *datos, const char *ubicacion,
                                              arr_long_t linea) ARR_NOEXCEPT;
+/** Calls accion(element, datos) with every stored pointer in position order.
+ * The walk covers the elements there on entry, with the array marked busy.
+ * @param array the array
+ * @param accion called with each stored pointer and datos; required
+ * @param datos handed to every call of accion
+ * @par Reports, besides the checks of the handle
+ *   - "(accion) != NULL" for a NULL accion */
 ARRAYS_API void arr_RecorreEstructuraSimpleConTipo(ARRAY *array,
                                                    arr_accion_EstructuraSimpleConTipo accion,
                                                    void *datos) ARR_NOEXCEPT;
 
-/*
- * Ordered search by bisection over an array kept in ascending order under compara(element,
- * datum). An equal element "hit" is the first element if equal, else the last if equal, else the
- * one a midpoint lands on first. Comparison results inconsistent with a sorted array are
- * reported; positions stay between 0 and the count.
- */
-/* Where dato goes: the hit, else the first greater element, else the count. ARR_ULONG_MAX when
- * the array or compara cannot be used. */
+/** @name Ordered search by bisection
+ * Over an array kept in ascending order under compara(element, datum), the element being a stored
+ * pointer. An equal element "hit" is the first element if equal, else the last if equal, else
+ * the one a midpoint lands on first. An empty array gives position 0 without a call; an array of
+ * one element has it compared twice, as first and as last. Comparison results inconsistent with
+ * a sorted array are reported, and the search goes on with what it has: positions stay between 0
+ * and the count. Those reports are "comp1 == comparac_PRIMERO_MENOR",
+ * "comp2 == comparac_PRIMERO_MAYOR",
+ * "comp2 == comparac_IGUALES || comp2 == comparac_PRIMERO_MAYOR",
+ * "compMed == comparac_PRIMERO_MENOR" and "n2 > n1". During the bisection, calls from compara that
+ * would free the array or change its count are refused.
+ * @{ */
+/** Where dato goes: the hit, else the first greater element, else the count.
+ * @param array the array, kept in ascending order
+ * @param compara compares a stored pointer with dato (comparac_* results); required
+ * @param dato the caller's datum
+ * @return the position; ARR_ULONG_MAX when the array or compara cannot be used
+ * @par Reports, besides the checks of the handle
+ *   - "(compara) != NULL" for a NULL compara
+ *   - the reports of results inconsistent with a sorted array */
 ARRAYS_API arr_ulong_t arr_DamePosicionInsercionPunteroOrdenadoDicotomicamenteConTipo(
     ARRAY *array, arr_orden_PunteroConTipo compara, const void *dato) ARR_NOEXCEPT;
-/* Inserts dato at that position, even when an equal element exists. */
+/** Inserts dato at the position arr_DamePosicionInsercionPunteroOrdenadoDicotomicamenteConTipo
+ * gives, even when an equal element exists.
+ * @param array the array, kept in ascending order
+ * @param compara compares a stored pointer with dato (comparac_* results); required
+ * @param dato the pointer to insert, also handed to compara
+ * @par Reports, besides the checks of the handle
+ *   - "(compara) != NULL" for a NULL compara (nothing is inserted)
+ *   - the reports of results inconsistent with a sorted array
+ *   - those of arr_InsertarPunteroConTipo, such as "array->en_bucle == FALSO" or
+ *     "array->en_bucle_lectura == FALSO" from inside a walk of this array, which is then left as
+ *     it was */
 ARRAYS_API void arr_InsertarPunteroOrdenadoDicotomicamenteConTipo(
     ARRAY *array, arr_orden_PunteroConTipo compara, void *dato) ARR_NOEXCEPT;
-/* Inserts dato only when no equal element was hit; *encontrado (if not NULL) says whether one was. */
+/** Inserts dato at its position only when the bisection hits no equal element.
+ * @param array the array, kept in ascending order
+ * @param compara compares a stored pointer with dato (comparac_* results); required
+ * @param dato the pointer to insert, also handed to compara
+ * @param encontrado gets CIERTO when an equal element was hit, else FALSO (also when the search
+ *   cannot run); may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(compara) != NULL" for a NULL compara (nothing is inserted)
+ *   - the reports of results inconsistent with a sorted array
+ *   - those of arr_InsertarPunteroConTipo, such as "array->en_bucle == FALSO" or
+ *     "array->en_bucle_lectura == FALSO" from inside a walk of this array, which is then left as
+ *     it was */
 ARRAYS_API void arr_nousar_InsertarPunteroOrdenadoDicotomicamente_SiNoExiste(
     ARRAY *array, arr_orden_PunteroConTipo compara, void *dato, arr_bool_t *encontrado) ARR_NOEXCEPT;
-/* First and last positions of the run of elements equal to dato, or ARR_ULONG_MAX to both. */
+/** The first and last positions of the run of elements equal to dato around the hit.
+ * The hit is compared again, then its neighbours on each side while they are equal.
+ * @param array the array, kept in ascending order
+ * @param dato the caller's datum
+ * @param compara compares a stored pointer with dato (comparac_* results); required
+ * @param posPrimerEncontrado gets the first position of the run, or ARR_ULONG_MAX when there is
+ *   none; required
+ * @param posUltimoEncontrado gets the last position of the run, or ARR_ULONG_MAX when there is
+ *   none; required
+ * @par Reports, besides the checks of the handle
+ *   - "(compara) != NULL", "(posPrimerEncontrado) != NULL" and "(posUltimoEncontrado) != NULL"
+ *     for each one that is NULL (a NULL compara finds no run)
+ *   - the reports of results inconsistent with a sorted array
+ *   - "(*compara)(arr_GETPUNTERO(array, posInsercion), dato) == comparac_IGUALES" when the hit
+ *     does not compare equal again (the run is still measured from it)
+ *   - "comp == comparac_PRIMERO_MENOR" when the element before the run is not below dato, and
+ *     "comp == comparac_PRIMERO_MAYOR" when the element after it is not above dato */
 ARRAYS_API void arr_BuscarEstructuraDicotomicamenteConTipo(
     ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, arr_ulong_t *posPrimerEncontrado,
     arr_ulong_t *posUltimoEncontrado) ARR_NOEXCEPT;
-/* TRUE when such a run exists; only then are the positions written, through the non-NULL pointers. */
+/** Tells whether a run of elements equal to dato exists, and where.
+ * Only when it does are the positions written, through the pointers that are not NULL.
+ * @param array the array, kept in ascending order
+ * @param dato the caller's datum
+ * @param compara compares a stored pointer with dato (comparac_* results); required
+ * @param posPrimerEncontrado gets the first position of the run; may be NULL
+ * @param posUltimoEncontrado gets the last position of the run; may be NULL
+ * @return CIERTO when such a run exists
+ * @par Reports, besides the checks of the handle
+ *   - those of arr_BuscarEstructuraDicotomicamenteConTipo, except for NULL position pointers */
 ARRAYS_API arr_bool_t arr_ExisteEstructuraDicotomicamenteConTipo(
     ARRAY *array, const void *dato, arr_orden_PunteroConTipo compara, arr_ulong_t *posPrimerEncontrado,
     arr_ulong_t *posUltimoEncontrado) ARR_NOEXCEPT;
+/** @} */
+
+/** @} */
 
 /* ---- 2D point arrays ------------------------------------------------------------------------ */
-/* A 2D point is x, y (two doubles). Searches and whole-array equality take a predicate, sorting
- * takes an ordering comparator (comparac_PRIMERO_MENOR, comparac_IGUALES, comparac_PRIMERO_MAYOR);
- * neither has a default. arr_GetPunto2D, arr_SetPunto2D, arr_BorrarPunto2D,
+/** @defgroup familia_Punto2D 2D point arrays
+ * Arrays of 2D points: a point is x, y (two doubles, stored in that order).
+ * Searches and whole-array equality take a predicate, sorting takes an ordering comparator
+ * (comparac_PRIMERO_MENOR, comparac_IGUALES, comparac_PRIMERO_MAYOR); neither has a default, and
+ * a NULL one is reported. arr_GetPunto2D, arr_SetPunto2D, arr_BorrarPunto2D,
  * arr_ArraysDePunto2DIguales, arr_GetMinimaxPunto2D and arr_GetSegmentoPunto2D accept a 2D point
  * array with private data as well. arr_DestruyePunto2D, arr_NumElemsPunto2D, arr_CopiaPunto2D,
  * arr_ConcatenaPunto2D, arr_AumentaTamanyoPunto2D and arr_ReduceTamanyoPunto2D are the shared
- * functions above. */
+ * functions above.
+ * @{ */
+/** Equality of two 2D points in the searches and in arr_SonIgualesPunto2D: called with a point of
+ * the array as (x1, y1) and the point looked for, or the point at the same position of the second
+ * array, as (x2, y2); non-zero when they match. */
 typedef arr_bool_t (*arr_igualdad_Punto2D)(double x1, double y1, double x2, double y2);
+/** Order of arr_QSortPunto2D: comparac_PRIMERO_MENOR when (x1, y1) goes before (x2, y2),
+ * comparac_IGUALES when neither goes first, comparac_PRIMERO_MAYOR when it goes after. */
 typedef int (*arr_orden_Punto2D)(double x1, double y1, double x2, double y2);
+/** Action of arr_nousar_RecorrePunto2D: the addresses of a point's x and y, which it may change in
+ * place, and the caller's datos; the result is ignored. */
 typedef arr_bool_t (*arr_accion_Punto2D)(double *x, double *y, void *datos);
 
-/* New array of n points (0, 0). */
+/** Creates a 2D point array holding tamanyo_inicial points (0, 0).
+ * @param tamanyo_inicial how many points it starts with
+ * @return the new array, to be destroyed with arr_DestruyePunto2D */
 ARRAYS_API ARRAY *arr_CreaPunto2D(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
-/* Appends the point (x, y). */
+/** Appends the point (x, y) after the last point.
+ * @param array the array
+ * @param x the x of the point
+ * @param y the y of the point
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array, which is then left as it was */
 ARRAYS_API void arr_AppendPunto2D(ARRAY *array, double x, double y) ARR_NOEXCEPT;
-/* Inserts (x, y) before pos (pos == count appends). */
+/** Inserts the point (x, y) before the point at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param x the x of the point
+ * @param y the y of the point
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a pos beyond the count (nothing is inserted)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array, which is then left as it was */
 ARRAYS_API void arr_InsertarPunto2D(ARRAY *array, arr_ulong_t pos, double x, double y) ARR_NOEXCEPT;
-/* Sets every point to (x, y). */
+/** Sets every point of the array to (x, y).
+ * @param array the array
+ * @param x the x of every point
+ * @param y the y of every point
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array (the points are set all the same) */
 ARRAYS_API void arr_InicializaPunto2D(ARRAY *array, double x, double y) ARR_NOEXCEPT;
-/* The point at pos into *x and *y (either may be NULL; with both NULL only checks that the point
- * exists). Also reads a point of a private-data array. */
+/** Reads the point at pos, of a plain 2D point array or of one with private data.
+ * With both outputs NULL it only checks that the point exists. Nothing is written when the call
+ * ends early.
+ * @param array the array, of either kind of 2D point
+ * @param pos the position, from 0
+ * @param x gets the x of the point; may be NULL
+ * @param y gets the y of the point; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" and then "(pto2D) != NULL" ("(pto2DX) != NULL" on an array
+ *     with private data) for a position without point; "array->num_elems > 0" before them when
+ *     the array is empty */
 ARRAYS_API void arr_GetPunto2D(const ARRAY *array, arr_ulong_t pos, double *x,
                                double *y) ARR_NOEXCEPT;
-/* Overwrites the point at pos; on a private-data array its data becomes NULL (the old data is
- * not released). Does not refuse an array inside a traversal. */
+/** Overwrites the point at pos, of a plain 2D point array or of one with private data.
+ * On an array with private data the point's data becomes NULL; the old data is not released.
+ * It neither refuses nor reports an array inside a walk, so that an action of
+ * arr_nousar_RecorrePunto2D may rewrite the point it visits.
+ * @param array the array, of either kind of 2D point
+ * @param pos the position, from 0
+ * @param x the new x
+ * @param y the new y
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without point ("array->num_elems > 0" before
+ *     it when the array is empty) */
 ARRAYS_API void arr_SetPunto2D(ARRAY *array, arr_ulong_t pos, double x, double y) ARR_NOEXCEPT;
-/* Deletes the point at pos, of either kind of 2D point array (private data is not released). */
+/** Deletes the point at pos, of either kind of 2D point array; the later points move down by one.
+ * The private data of a deleted point is not released: that is left to the caller.
+ * @param array the array, of either kind of 2D point
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "array->tipo_elem == elem_PUNTO2D_NO_USAR || array->tipo_elem == elem_PUNTO2DX_NO_USAR"
+ *     for an array of another type, which is left as it was
+ *   - "real_pos < array->num_elems" for a position without point
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
 ARRAYS_API void arr_BorrarPunto2D(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
-/* First position whose point matches (x, y) by the predicate, or ARR_ULONG_MAX. */
+/** Finds the first point that matches (x, y) by the predicate.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param igualdad non-zero when a point of the array matches (x, y)
+ * @return its position, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "(fnc_compara->fnc_compara_punto2D) != NULL" for a NULL igualdad (then ARR_ULONG_MAX) */
 ARRAYS_API arr_ulong_t arr_BuscarPunto2D(ARRAY *array, double x, double y,
                                          arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
-/* The same; a second match is reported and the last match is the result. */
+/** Finds the point that matches (x, y) by the predicate, which should be the only one.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param igualdad non-zero when a point of the array matches (x, y)
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first
+ *   - "(fnc_compara->fnc_compara_punto2D) != NULL" for a NULL igualdad (then ARR_ULONG_MAX) */
 ARRAYS_API arr_ulong_t arr_BuscarUnicoPunto2D(ARRAY *array, double x, double y,
                                               arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
-/* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
+/** Tells whether a point matches (x, y) by the predicate, and where the first one is.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param igualdad non-zero when a point of the array matches (x, y)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does
+ * @par Reports, besides the checks of the handle
+ *   - "(fnc_compara->fnc_compara_punto2D) != NULL" for a NULL igualdad (then FALSO) */
 ARRAYS_API arr_bool_t arr_ExistePunto2D(ARRAY *array, double x, double y,
                                         arr_igualdad_Punto2D igualdad,
                                         arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether a point matches (x, y) by the predicate, which should be the only one.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param igualdad non-zero when a point of the array matches (x, y)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first
+ *   - "(fnc_compara->fnc_compara_punto2D) != NULL" for a NULL igualdad (then FALSO) */
 ARRAYS_API arr_bool_t arr_ExisteUnicoPunto2D(ARRAY *array, double x, double y,
                                        arr_igualdad_Punto2D igualdad, arr_ulong_t *posicion) ARR_NOEXCEPT;
-/* Sorts in place by the comparator. */
+/** Sorts the points in place by the comparator, with the library's quicksort.
+ * Two points whose stored bytes are identical are taken as equal without calling comparador.
+ * @param array the array
+ * @param comparador the order (comparac_* results); required
+ * @par Reports, besides the checks of the handle
+ *   - "(func_compara_punto2D) != NULL" for a NULL comparador (nothing is sorted)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array (the sort is made all the same) */
 ARRAYS_API void arr_QSortPunto2D(ARRAY *array, arr_orden_Punto2D comparador) ARR_NOEXCEPT;
-/* Same count and every pair of points equal by the predicate. */
+/** Compares two 2D point arrays point by point with the predicate.
+ * Stops at the first pair that does not match.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @param igualdad non-zero when a point of array1 and the point of array2 at the same position
+ *   match
+ * @return CIERTO when they have the same count and every pair of points matches
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle, and
+ *     "array1->mascara_debug == MASCARA_DEBUG" or "array2->mascara_debug == MASCARA_DEBUG" for
+ *     one that is not a live array (FALSO)
+ *   - "array1->tipo_elem == tipo_elem && array2->tipo_elem == tipo_elem" when either is not a
+ *     plain 2D point array (FALSO)
+ *   - "(fnc_compara->fnc_compara_punto2D) != NULL" for a NULL igualdad (FALSO)
+ *   - "en_bucle == FALSO" for each array that a writing traversal or a sort is running over,
+ *     while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); they are compared all
+ *     the same */
 ARRAYS_API arr_bool_t arr_SonIgualesPunto2D(ARRAY *array1, ARRAY *array2,
                                             arr_igualdad_Punto2D igualdad) ARR_NOEXCEPT;
-/* Same count and, point by point, |x1 - x2| <= tolerancia and |y1 - y2| <= tolerancia (a square
- * per coordinate, not a distance). Either array may carry private data. */
+/** Compares two 2D point arrays within a tolerance per coordinate.
+ * Point by point, |x1 - x2| and |y1 - y2| must each be at most tolerancia: a square around each
+ * point, not a distance. A NaN difference counts as equal. Either array may carry private data,
+ * which is not compared.
+ * @param array1 the first array, of either kind of 2D point
+ * @param array2 the second array, of either kind of 2D point
+ * @param tolerancia the greatest difference allowed in each coordinate
+ * @return CIERTO when both have the same count and every pair of points is within tolerancia;
+ *   FALSO when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle, and
+ *     "array1->mascara_debug == MASCARA_DEBUG" or "array2->mascara_debug == MASCARA_DEBUG" for
+ *     one that is not a live array; both arrays are checked
+ *   - "array1->tipo_elem == elem_PUNTO2D_NO_USAR || array1->tipo_elem == elem_PUNTO2DX_NO_USAR"
+ *     (or the same of array2) for an array of neither kind */
 ARRAYS_API arr_bool_t arr_ArraysDePunto2DIguales(const ARRAY *array1, const ARRAY *array2,
                                                  double tolerancia) ARR_NOEXCEPT;
-/* array1 and array2 are typed pointer arrays whose elements are 2D point arrays: same count
- * and the point arrays at each position equal by arr_ArraysDePunto2DIguales. */
+/** Compares, within a tolerance, two pointer arrays (arr_CreaPunteroConTipo) whose elements are
+ * 2D point arrays, pair by pair with arr_ArraysDePunto2DIguales up to the first unequal pair.
+ * Every element reached must be a live 2D point array of either kind: any other (NULL included)
+ * is reported as arr_ArraysDePunto2DIguales reports it, and makes the result FALSO.
+ * @param array1 the first pointer array
+ * @param array2 the second pointer array
+ * @param tolerancia as in arr_ArraysDePunto2DIguales
+ * @return CIERTO when both have the same count and every pair of point arrays is equal within
+ *   tolerancia (two empty pointer arrays are equal)
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle, and
+ *     "array1->mascara_debug == MASCARA_DEBUG" or "array2->mascara_debug == MASCARA_DEBUG" for
+ *     one that is not a live array (FALSO)
+ *   - "array1->tipo_elem == elem_PUNTERO_NO_USAR" or "array2->tipo_elem == elem_PUNTERO_NO_USAR"
+ *     for an array that is not a pointer array (FALSO) */
 ARRAYS_API arr_bool_t arr_SonIgualesArrPunteroArrPunto2DConTolerancia(const ARRAY *array1,
                                                                       const ARRAY *array2,
                                                                 double tolerancia) ARR_NOEXCEPT;
-/* Calls accion(&x, &y, datos) for every point in order; ubicacion and linea name the caller in
- * a report of a traversal already running. */
+/** Calls accion for every point in position order.
+ * The action gets the addresses of the point's x and y and may change them in place; calls that
+ * would free the array or change its count are refused while it runs. Only the points there at
+ * the start are visited.
+ * @param array the array
+ * @param accion called with the addresses of each point's x and y, and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" naming ubicacion and linea when called from inside another traversal,
+ *     or a sort or search, of this array, while the loop-guard check is on
+ *     (arrayprv_set_comprobar_en_bucle); the traversal is made all the same
+ *   - "(fnc_accion->fnc_accion_punto2D) != NULL" for a NULL accion (nothing is visited) */
 ARRAYS_API void arr_nousar_RecorrePunto2D(ARRAY *array, arr_accion_Punto2D accion, void *datos,
                                           const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
-/* Moves every point by (dx, dy). */
+/** Moves every point by (dx, dy): x becomes x + dx and y becomes y + dy.
+ * @param array the array
+ * @param dx added to every x
+ * @param dy added to every y
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" from inside a traversal, sort or search of this
+ *     array, while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); the points are
+ *     moved all the same */
 ARRAYS_API void arr_MoverPunto2D(ARRAY *array, double dx, double dy) ARR_NOEXCEPT;
-/* Multiplies both coordinates of every point by factor. */
+/** Multiplies both coordinates of every point by factor (a scaling about the origin).
+ * @param array the array
+ * @param factor the factor
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" from inside a traversal, sort or search of this
+ *     array, while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); the points are
+ *     scaled all the same */
 ARRAYS_API void arr_MultiplicarPunto2D(ARRAY *array, double factor) ARR_NOEXCEPT;
-/* Turns every point about (xc, yc) CLOCKWISE by the angle whose sine and cosine are given. */
+/** Turns every point about (xc, yc) CLOCKWISE by the angle whose sine and cosine are given.
+ * A point at offset (dx, dy) from the centre goes to (xc + dx * coseno + dy * seno,
+ * yc - dx * seno + dy * coseno); seno and coseno are used as given, not normalised. The private
+ * data family's arr_Girar_seno_y_cosenoPunto2DXPriv turns the other way.
+ * @param array the array
+ * @param xc the x of the centre
+ * @param yc the y of the centre
+ * @param seno the sine of the angle
+ * @param coseno the cosine of the angle
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" from inside a traversal, sort or search of this
+ *     array, while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); the points are
+ *     turned all the same */
 ARRAYS_API void arr_Girar_en_sentido_horirario_seno_y_cosenoPunto2D(ARRAY *array, double xc,
                                                                     double yc, double seno,
                                                                     double coseno) ARR_NOEXCEPT;
-/* Turns every point about (xc, yc) by angulo radians, counter-clockwise when positive; an angle
- * of magnitude 1e-5 or less changes nothing. */
+/** Turns every point about (xc, yc) by angulo radians, counter-clockwise when angulo is positive.
+ * An angle of magnitude 1e-5 or less (or a NaN) changes nothing and checks nothing, not even the
+ * handle.
+ * @param array the array
+ * @param xc the x of the centre
+ * @param yc the y of the centre
+ * @param angulo the angle in radians
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" from inside a traversal, sort or search of this
+ *     array, while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); the points are
+ *     turned all the same */
 ARRAYS_API void arr_GirarPunto2D(ARRAY *array, double xc, double yc, double angulo) ARR_NOEXCEPT;
-/* Bounding box into the pointers that are not NULL; the array must not be empty. */
+/** The bounding box of the points of a 2D point array of either kind.
+ * The array must not be empty. Nothing is written when the call ends early.
+ * @param array the array, of either kind of 2D point
+ * @param xmin gets the smallest x; may be NULL
+ * @param ymin gets the smallest y; may be NULL
+ * @param xmax gets the greatest x; may be NULL
+ * @param ymax gets the greatest y; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "array->num_elems > 0", "real_pos < array->num_elems" and "(pto2D) != NULL"
+ *     ("(pto2DX) != NULL" on an array with private data) for an empty array */
 ARRAYS_API void arr_GetMinimaxPunto2D(const ARRAY *array, double *xmin, double *ymin,
                                       double *xmax, double *ymax) ARR_NOEXCEPT;
-/* Segment i of the closed polyline: point i and point i + 1, or point 0 after the last. */
+/** Segment i of the closed polyline that the points make, in a 2D point array of either kind.
+ * It runs from point i to point i + 1, and from the last point back to point 0 (from point 0 to
+ * itself in an array of one point). Nothing is written when the call ends early.
+ * @param array the array, of either kind of 2D point
+ * @param i the segment, from 0 (the position of its first point)
+ * @param x1 gets the x of its first point; may be NULL
+ * @param y1 gets the y of its first point; may be NULL
+ * @param x2 gets the x of its second point; may be NULL
+ * @param y2 gets the y of its second point; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" and then "(pto2D) != NULL" ("(pto2DX) != NULL" on an array
+ *     with private data) for an i without point; "array->num_elems > 0" before them when the
+ *     array is empty */
 ARRAYS_API void arr_GetSegmentoPunto2D(const ARRAY *array, arr_ulong_t i, double *x1, double *y1,
                                        double *x2, double *y2) ARR_NOEXCEPT;
-/* A new array with the points in reverse order; the argument is unchanged. */
+/** Makes a new 2D point array with the points in reverse order; the argument is unchanged.
+ * @param array the array (a plain 2D point array)
+ * @return the new array, to be destroyed with arr_DestruyePunto2D; NULL when the call ends early */
 ARRAYS_API ARRAY *arr_InvertirPunto2D(const ARRAY *array) ARR_NOEXCEPT;
+/** @} */
 
 /* ---- 2D points with private data ------------------------------------------------------------ */
-/* A point x, y carrying one pointer of the caller's private data, which the library never
- * dereferences: it is released only by the destroy function given to arr_DestruyePunto2DXPriv or
- * arr_ReduceTamanyoPunto2DXPriv (which must leave it NULL), copied only by the copy function
- * given to the copy and concatenation, and must be NULL when the array is destroyed or shrunk
- * otherwise. Use arr_NumElemsPunto2D for the count and arr_GetPunto2D / arr_SetPunto2D /
- * arr_BorrarPunto2D on these arrays too. */
+/** @defgroup familia_Punto2DXPriv 2D points with private data
+ * Arrays of 2D points x, y that each carry one pointer of the caller's private data, which the
+ * library never dereferences. The data is released only by the destroy function given to
+ * arr_DestruyePunto2DXPriv or arr_ReduceTamanyoPunto2DXPriv (which must leave it NULL), copied
+ * only by the copy function given to the copy and the concatenation, and must be NULL when the
+ * array is destroyed or shrunk otherwise: each one still set is reported then as "ptr == NULL".
+ * Deleting or overwriting a point does not release its data. Use arr_NumElemsPunto2D for the
+ * count, and arr_GetPunto2D, arr_SetPunto2D and arr_BorrarPunto2D on these arrays too.
+ * @{ */
+/** Equality of two points with data in the searches and in arr_SonIgualesPunto2DXPriv: called
+ * with a point of the array as (x1, y1, datos1) and the point looked for, or the point at the same
+ * position of the second array, as (x2, y2, datos2); non-zero when they match. */
 typedef arr_bool_t (*arr_igualdad_Punto2DXPriv)(double x1, double y1, void *datos1, double x2,
                                           double y2, void *datos2);
+/** Order of arr_QSortPunto2DXPriv: comparac_PRIMERO_MENOR when (x1, y1, datos1) goes before
+ * (x2, y2, datos2), comparac_IGUALES when neither goes first, comparac_PRIMERO_MAYOR when it goes
+ * after. */
 typedef int (*arr_orden_Punto2DXPriv)(double x1, double y1, void *datos1, double x2, double y2,
                                       void *datos2);
+/** Action of arr_RecorrePunto2DXPriv: the addresses of a point's x, y and data, which it may
+ * change in place, and the caller's datos; the result is ignored. */
 typedef arr_bool_t (*arr_accion_Punto2DXPriv)(double *x, double *y, void **datos_punto,
                     void *datos);
-/* Returns the copy of a point's data. */
+/** Copy of a point's data for arr_CopiaPunto2DXPriv_nousar and arr_ConcatenaPunto2DXPriv_nousar:
+ * called with the data of every point copied (NULL included); returns the data of the new
+ * point. */
 typedef void *(*arr_copia_datos_Punto2DXPriv)(void *datos);
-/* Releases a point's data and sets *datos to NULL. */
+/** Release of a point's data for arr_DestruyePunto2DXPriv (every point) and
+ * arr_ReduceTamanyoPunto2DXPriv (the points cut off): called with the address of the point's data
+ * (NULL data included); it releases the data and sets *datos to NULL. */
 typedef void (*arr_destruye_datos_Punto2DXPriv)(void **datos);
 
-/* New array of n points (0, 0) with NULL data. */
+/** Creates an array of 2D points with private data holding tamanyo_inicial points (0, 0) with
+ * NULL data.
+ * @param tamanyo_inicial how many points it starts with
+ * @return the new array, to be destroyed with arr_DestruyePunto2DXPriv */
 ARRAYS_API ARRAY *arr_CreaPunto2DXPriv(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
-/* Appends (x, y) with its data. */
+/** Appends the point (x, y) with its data after the last point.
+ * @param array the array
+ * @param x the x of the point
+ * @param y the y of the point
+ * @param datos the point's data, stored as it is; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array, which is then left as it was */
 ARRAYS_API void arr_AppendPunto2DXPriv(ARRAY *array, double x, double y, void *datos) ARR_NOEXCEPT;
-/* Inserts (x, y, datos) before pos (pos == count appends). */
+/** Inserts the point (x, y) with its data before the point at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param x the x of the point
+ * @param y the y of the point
+ * @param datos the point's data, stored as it is; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a pos beyond the count (nothing is inserted)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array, which is then left as it was */
 ARRAYS_API void arr_InsertarPunto2DXPriv(ARRAY *array, arr_ulong_t pos, double x, double y,
                                          void *datos) ARR_NOEXCEPT;
-/* The point at pos: x and y must not be NULL; datos may be. */
+/** Reads the point at pos with its data.
+ * Nothing is written when the point does not exist.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param x gets the x of the point; must not be NULL
+ * @param y gets the y of the point; must not be NULL
+ * @param datos gets the point's data; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "(x) != NULL" or "(y) != NULL" for a NULL x or y; the other outputs are still written
+ *   - "real_pos < array->num_elems" for a position without point ("array->num_elems > 0" before
+ *     it when the array is empty) */
 ARRAYS_API void arr_GetPunto2DXPriv(const ARRAY *array, arr_ulong_t pos, double *x, double *y,
                                     void **datos) ARR_NOEXCEPT;
-/* Overwrites the point at pos, data included; the old data is not released. */
+/** Overwrites the point at pos, data included; the old data is not released.
+ * It neither refuses nor reports an array inside a walk.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param x the new x
+ * @param y the new y
+ * @param datos the new data; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without point ("array->num_elems > 0" before
+ *     it when the array is empty) */
 ARRAYS_API void arr_SetPunto2DXPriv(ARRAY *array, arr_ulong_t pos, double x, double y,
                                     void *datos) ARR_NOEXCEPT;
-/* Deletes the point at pos; its data is not released. */
+/** Deletes the point at pos; the later points move down by one. Its data is not released.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without point
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
 ARRAYS_API void arr_BorrarPunto2DXPriv(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
-/* First position whose point matches (x, y, datos) by the predicate, or ARR_ULONG_MAX. */
+/** Finds the first point that matches (x, y, datos) by the predicate.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param datos the data of the point looked for, handed to igualdad
+ * @param igualdad non-zero when a point of the array matches (x, y, datos)
+ * @return its position, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "(fnc_compara->fnc_compara_punto2DX) != NULL" for a NULL igualdad (then ARR_ULONG_MAX) */
 ARRAYS_API arr_ulong_t arr_BuscarPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
                                               arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
-/* The same; a second match is reported and the last match is the result. */
+/** Finds the point that matches (x, y, datos) by the predicate, which should be the only one.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param datos the data of the point looked for, handed to igualdad
+ * @param igualdad non-zero when a point of the array matches (x, y, datos)
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first
+ *   - "(fnc_compara->fnc_compara_punto2DX) != NULL" for a NULL igualdad (then ARR_ULONG_MAX) */
 ARRAYS_API arr_ulong_t arr_BuscarUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
                                                    arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
-/* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
+/** Tells whether a point matches (x, y, datos) by the predicate, and where the first one is.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param datos the data of the point looked for, handed to igualdad
+ * @param igualdad non-zero when a point of the array matches (x, y, datos)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does
+ * @par Reports, besides the checks of the handle
+ *   - "(fnc_compara->fnc_compara_punto2DX) != NULL" for a NULL igualdad (then FALSO) */
 ARRAYS_API arr_bool_t arr_ExistePunto2DXPriv(ARRAY *array, double x, double y, void *datos,
                                              arr_igualdad_Punto2DXPriv igualdad,
                                              arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether a point matches (x, y, datos) by the predicate, which should be the only one.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param datos the data of the point looked for, handed to igualdad
+ * @param igualdad non-zero when a point of the array matches (x, y, datos)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first
+ *   - "(fnc_compara->fnc_compara_punto2DX) != NULL" for a NULL igualdad (then FALSO) */
 ARRAYS_API arr_bool_t arr_ExisteUnicoPunto2DXPriv(ARRAY *array, double x, double y, void *datos,
                                                   arr_igualdad_Punto2DXPriv igualdad,
                                                   arr_ulong_t *posicion) ARR_NOEXCEPT;
-/* Sorts in place by the comparator. */
+/** Sorts the points in place by the comparator, with the library's quicksort; each point's data
+ * moves with it.
+ * Two points whose stored bytes (data pointer included) are identical are taken as equal
+ * without calling comparador.
+ * @param array the array
+ * @param comparador the order (comparac_* results); required
+ * @par Reports, besides the checks of the handle
+ *   - "(func_compara_punto2Dx) != NULL" for a NULL comparador (nothing is sorted)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array (the sort is made all the same) */
 ARRAYS_API void arr_QSortPunto2DXPriv(ARRAY *array, arr_orden_Punto2DXPriv comparador) ARR_NOEXCEPT;
-/* Same count and every pair of points equal by the predicate. */
+/** Compares two arrays of points with data point by point with the predicate.
+ * Stops at the first pair that does not match.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @param igualdad non-zero when a point of array1 and the point of array2 at the same position
+ *   match
+ * @return CIERTO when they have the same count and every pair of points matches
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle, and
+ *     "array1->mascara_debug == MASCARA_DEBUG" or "array2->mascara_debug == MASCARA_DEBUG" for
+ *     one that is not a live array (FALSO)
+ *   - "array1->tipo_elem == tipo_elem && array2->tipo_elem == tipo_elem" when either is not an
+ *     array of points with data (FALSO)
+ *   - "(fnc_compara->fnc_compara_punto2DX) != NULL" for a NULL igualdad (FALSO)
+ *   - "en_bucle == FALSO" for each array that a writing traversal or a sort is running over,
+ *     while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); they are compared all
+ *     the same */
 ARRAYS_API arr_bool_t arr_SonIgualesPunto2DXPriv(ARRAY *array1, ARRAY *array2,
                                                  arr_igualdad_Punto2DXPriv igualdad) ARR_NOEXCEPT;
-/* Calls accion(&x, &y, &datos_punto, datos) for every point in order. */
+/** Calls accion for every point in position order.
+ * The action gets the addresses of the point's x, y and data and may change them in place; calls
+ * that would free the array or change its count are refused while it runs. Only the points there
+ * at the start are visited.
+ * @param array the array
+ * @param accion called with the addresses of each point's x, y and data, and datos
+ * @param datos handed to every call of accion
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" naming this library's module when called from inside another
+ *     traversal, or a sort or search, of this array, while the loop-guard check is on
+ *     (arrayprv_set_comprobar_en_bucle); the traversal is made all the same
+ *   - "(fnc_accion->fnc_accion_punto2DX) != NULL" for a NULL accion (nothing is visited) */
 ARRAYS_API void arr_RecorrePunto2DXPriv(ARRAY *array, arr_accion_Punto2DXPriv accion,
                                         void *datos) ARR_NOEXCEPT;
-/* Moves every point by (dx, dy). */
+/** Moves every point by (dx, dy): x becomes x + dx and y becomes y + dy. The data is untouched.
+ * @param array the array
+ * @param dx added to every x
+ * @param dy added to every y
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" from inside a traversal, sort or search of this
+ *     array, while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); the points are
+ *     moved all the same */
 ARRAYS_API void arr_MoverPunto2DXPriv(ARRAY *array, double dx, double dy) ARR_NOEXCEPT;
-/* Multiplies both coordinates of every point by factor. */
+/** Multiplies both coordinates of every point by factor (a scaling about the origin). The data is
+ * untouched.
+ * @param array the array
+ * @param factor the factor
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" from inside a traversal, sort or search of this
+ *     array, while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); the points are
+ *     scaled all the same */
 ARRAYS_API void arr_MultiplicarPunto2DXPriv(ARRAY *array, double factor) ARR_NOEXCEPT;
-/* Turns every point about (xc, yc) COUNTER-CLOCKWISE by the angle whose sine and cosine are
- * given (the opposite sense of arr_Girar_en_sentido_horirario_seno_y_cosenoPunto2D). */
+/** Turns every point about (xc, yc) COUNTER-CLOCKWISE by the angle whose sine and cosine are
+ * given: the opposite sense of arr_Girar_en_sentido_horirario_seno_y_cosenoPunto2D.
+ * A point at offset (dx, dy) from the centre goes to (xc + dx * coseno - dy * seno,
+ * yc + dx * seno + dy * coseno); seno and coseno are used as given, not normalised. The data is
+ * untouched.
+ * @param array the array
+ * @param xc the x of the centre
+ * @param yc the y of the centre
+ * @param seno the sine of the angle
+ * @param coseno the cosine of the angle
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" from inside a traversal, sort or search of this
+ *     array, while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); the points are
+ *     turned all the same */
 ARRAYS_API void arr_Girar_seno_y_cosenoPunto2DXPriv(ARRAY *array, double xc, double yc,
                                                     double seno, double coseno) ARR_NOEXCEPT;
-/* Turns every point about (xc, yc) by angulo radians, counter-clockwise when positive; an angle
- * of magnitude 1e-5 or less changes nothing. */
+/** Turns every point about (xc, yc) by angulo radians, counter-clockwise when angulo is positive.
+ * An angle of magnitude 1e-5 or less (or a NaN) changes nothing and checks nothing, not even the
+ * handle. The data is untouched.
+ * @param array the array
+ * @param xc the x of the centre
+ * @param yc the y of the centre
+ * @param angulo the angle in radians
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" from inside a traversal, sort or search of this
+ *     array, while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); the points are
+ *     turned all the same */
 ARRAYS_API void arr_GirarPunto2DXPriv(ARRAY *array, double xc, double yc,
                                       double angulo) ARR_NOEXCEPT;
-/* A new array with the points in reverse order and NULL data; every point with data is
- * reported, as such arrays are not meant to be reversed. */
+/** Makes a new array of points with data holding the points in reverse order, all with NULL data.
+ * Such arrays are not meant to be reversed: the data would be shared, so it is left out of the
+ * new array. The argument is unchanged, its data included.
+ * @param array the array
+ * @return the new array, to be destroyed with arr_DestruyePunto2DXPriv; NULL when the call ends
+ *   early
+ * @par Reports, besides the checks of the handle
+ *   - "datos == NULL" for every point whose data is not NULL */
 ARRAYS_API ARRAY *arr_InvertirPunto2DXPriv(const ARRAY *array) ARR_NOEXCEPT;
-/* TRUE when some point has data that is not NULL. */
+/** Tells whether some point carries data.
+ * @param array the array
+ * @return CIERTO when the data of some point is not NULL; FALSO for an empty array and when the
+ *   call ends early */
 ARRAYS_API arr_bool_t arr_TieneDatosExtrasAlgunPunto2DXPriv(ARRAY *array) ARR_NOEXCEPT;
-/* Applies destruye (when not NULL) to every point's data, then destroys the array and sets
- * *array to NULL. */
+/** Destroys an array of points with data, releasing each point's data through destruye.
+ * destruye (when not NULL) is applied to the data of every point; then every data still not NULL
+ * is reported, the array is destroyed all the same and *array is set to NULL. A plain 2D point
+ * array, which holds no data, is reported by its tag and destroyed without calling destruye.
+ * @param array the address of the handle, which is set to NULL
+ * @param destruye releases a point's data and sets it to NULL; NULL when every data is NULL
+ *   already
+ * @par Reports, besides the checks of the handle
+ *   - "(array) != NULL" for a NULL address and "(*array) != NULL" for a NULL handle
+ *   - "(*array)->tipo_elem == elem_PUNTO2DX_NO_USAR" for an array of another type: a plain 2D
+ *     point array is then destroyed, any other is left alive
+ *   - "ptr == NULL" for each point whose data is still not NULL
+ *   - "(*array)->en_bucle == FALSO" or "(*array)->en_bucle_lectura == FALSO" when called from
+ *     inside a walk of this array, which it then leaves alive */
 ARRAYS_API void arr_DestruyePunto2DXPriv(ARRAY **array,
                                          arr_destruye_datos_Punto2DXPriv destruye) ARR_NOEXCEPT;
-/* Shrinks to nuevo_tamanyo points, applying destruye (when not NULL) to the data of the points
- * cut off. */
+/** Shrinks the array to its first nuevo_tamanyo points, releasing the data of the points cut off
+ * through destruye.
+ * destruye (when not NULL) is applied to the data of each point cut off; every such data still
+ * not NULL is then reported, and the points are cut all the same. A count equal to the present one
+ * changes nothing.
+ * @param array the array
+ * @param nuevo_tamanyo the new count
+ * @param destruye releases a point's data and sets it to NULL; NULL when the data of the points
+ *   cut off is NULL already
+ * @par Reports, besides the checks of the handle
+ *   - "array->tipo_elem == elem_PUNTO2DX_NO_USAR" for an array of another type, a plain 2D point
+ *     array included, which is left as it was
+ *   - "nuevo_tamanyo <= array->num_elems" for a count above the present one (nothing changes)
+ *   - "ptr == NULL" for each point cut off whose data is still not NULL
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
 ARRAYS_API void arr_ReduceTamanyoPunto2DXPriv(ARRAY *array, arr_ulong_t nuevo_tamanyo,
                                               arr_destruye_datos_Punto2DXPriv destruye) ARR_NOEXCEPT;
-/* A new array with the points of array; each point's data is copia(datos), or the same pointer
- * when copia is NULL (then only one of the two arrays may release it). ubicacion and linea name
- * the caller in a report of a traversal already running. */
+/** Copies an array of points with data.
+ * Each point's data in the copy is copia(datos), or the same pointer when copia is NULL: then
+ * only one of the two arrays may release it, and the other must set it to NULL first.
+ * @param array the array to copy
+ * @param copia makes the data of each new point from the data of the old one; may be NULL
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @return the new array, to be destroyed with arr_DestruyePunto2DXPriv; NULL when the call ends
+ *   early
+ * @par Reports, besides the checks of the handle
+ *   - "array->tipo_elem == elem_PUNTO2DX_NO_USAR" for an array of another type (NULL)
+ *   - "en_bucle == FALSO" naming ubicacion and linea when called while a writing traversal or a
+ *     sort of array is running, and the loop-guard check is on (arrayprv_set_comprobar_en_bucle);
+ *     the copy is made all the same */
 ARRAYS_API ARRAY *arr_CopiaPunto2DXPriv_nousar(ARRAY *array, arr_copia_datos_Punto2DXPriv copia,
                                                const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
-/* Appends org's points to dest, with data as in arr_CopiaPunto2DXPriv_nousar. */
+/** Appends every point of org to dest, with its data made as in arr_CopiaPunto2DXPriv_nousar.
+ * @param dest the array that grows
+ * @param org the array whose points are appended; it is left as it was, and must not be dest
+ * @param copia makes the data of each new point from the data of the point of org; may be NULL
+ * @param ubicacion the caller's module, named in a report of a walk of org already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "(org) != NULL", "(dest) != NULL", "dest->mascara_debug == MASCARA_DEBUG" and
+ *     "org->mascara_debug == MASCARA_DEBUG" for a NULL or dead handle (nothing is appended)
+ *   - "dest->tipo_elem == elem_PUNTO2DX_NO_USAR" for a dest of another type, and
+ *     "array->tipo_elem == tipo_elem" for an org of another type (nothing is appended)
+ *   - "dest != org" for an array concatenated onto itself (nothing is appended)
+ *   - "dest->en_bucle == FALSO" or "dest->en_bucle_lectura == FALSO" from inside a walk of dest,
+ *     which is then left as it was
+ *   - "en_bucle == FALSO" naming ubicacion and linea when a writing traversal or a sort of org
+ *     is running, and the loop-guard check is on (arrayprv_set_comprobar_en_bucle); the points
+ *     are appended all the same */
 ARRAYS_API void arr_ConcatenaPunto2DXPriv_nousar(ARRAY *dest, ARRAY *org,
                                                  arr_copia_datos_Punto2DXPriv copia,
                                                  const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** @} */
 
 /* ---- 3D point arrays ------------------------------------------------------------------------ */
-/* A 3D point is x, y, z (three doubles). Searches and equality take a predicate, sorting an
- * ordering comparator; neither has a default. arr_DestruyePunto3D, arr_NumElemsPunto3D,
+/** @defgroup familia_Punto3D 3D point arrays
+ * Arrays of 3D points: a point is x, y, z (three doubles, stored in that order).
+ * Searches and whole-array equality take a predicate, sorting an ordering comparator; neither has
+ * a default, and a NULL one is reported. arr_DestruyePunto3D, arr_NumElemsPunto3D,
  * arr_CopiaPunto3D, arr_ConcatenaPunto3D, arr_AumentaTamanyoPunto3D and arr_ReduceTamanyoPunto3D
- * are the shared functions above. */
+ * are the shared functions above.
+ * @{ */
+/** Equality of two 3D points in the searches and in arr_SonIgualesPunto3D: called with a point of
+ * the array as (x1, y1, z1) and the point looked for, or the point at the same position of the
+ * second array, as (x2, y2, z2); non-zero when they match. */
 typedef arr_bool_t (*arr_igualdad_Punto3D)(double x1, double y1, double z1, double x2, double y2,
                                      double z2);
+/** Order of arr_QSortPunto3D: comparac_PRIMERO_MENOR when (x1, y1, z1) goes before (x2, y2, z2),
+ * comparac_IGUALES when neither goes first, comparac_PRIMERO_MAYOR when it goes after. */
 typedef int (*arr_orden_Punto3D)(double x1, double y1, double z1, double x2, double y2, double z2);
+/** Action of arr_nousar_RecorrePunto3D: the addresses of a point's x, y and z, which it may change
+ * in place, and the caller's datos; the result is ignored. */
 typedef arr_bool_t (*arr_accion_Punto3D)(double *x, double *y, double *z, void *datos);
 
-/* New array of n points (0, 0, 0). */
+/** Creates a 3D point array holding tamanyo_inicial points (0, 0, 0).
+ * @param tamanyo_inicial how many points it starts with
+ * @return the new array, to be destroyed with arr_DestruyePunto3D */
 ARRAYS_API ARRAY *arr_CreaPunto3D(arr_ulong_t tamanyo_inicial) ARR_NOEXCEPT;
-/* Appends (x, y, z). */
+/** Appends the point (x, y, z) after the last point.
+ * @param array the array
+ * @param x the x of the point
+ * @param y the y of the point
+ * @param z the z of the point
+ * @par Reports, besides the checks of the handle
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array, which is then left as it was */
 ARRAYS_API void arr_AppendPunto3D(ARRAY *array, double x, double y, double z) ARR_NOEXCEPT;
-/* Inserts (x, y, z) before pos (pos == count appends). */
+/** Inserts the point (x, y, z) before the point at pos.
+ * @param array the array
+ * @param pos the position it takes; the count appends
+ * @param x the x of the point
+ * @param y the y of the point
+ * @param z the z of the point
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a pos beyond the count (nothing is inserted)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array, which is then left as it was */
 ARRAYS_API void arr_InsertarPunto3D(ARRAY *array, arr_ulong_t pos, double x, double y,
                                     double z) ARR_NOEXCEPT;
-/* The point at pos into the pointers that are not NULL (with all NULL only checks that it
- * exists). */
+/** Reads the point at pos into the outputs that are not NULL.
+ * With all three NULL it only checks that the point exists. Nothing is written when the call ends
+ * early.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param x gets the x of the point; may be NULL
+ * @param y gets the y of the point; may be NULL
+ * @param z gets the z of the point; may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without point ("array->num_elems > 0" before
+ *     it when the array is empty) */
 ARRAYS_API void arr_GetPunto3D(const ARRAY *array, arr_ulong_t pos, double *x, double *y,
                                double *z) ARR_NOEXCEPT;
-/* Overwrites the point at pos. */
+/** Overwrites the point at pos.
+ * It neither refuses nor reports an array inside a walk, so that an action of
+ * arr_nousar_RecorrePunto3D may rewrite a point.
+ * @param array the array
+ * @param pos the position, from 0
+ * @param x the new x
+ * @param y the new y
+ * @param z the new z
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without point ("array->num_elems > 0" before
+ *     it when the array is empty) */
 ARRAYS_API void arr_SetPunto3D(ARRAY *array, arr_ulong_t pos, double x, double y,
                                double z) ARR_NOEXCEPT;
-/* Deletes the point at pos. */
+/** Deletes the point at pos; the later points move down by one.
+ * @param array the array
+ * @param pos the position, from 0
+ * @par Reports, besides the checks of the handle
+ *   - "real_pos < array->num_elems" for a position without point
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a walk of this
+ *     array, which is then left as it was */
 ARRAYS_API void arr_BorrarPunto3D(ARRAY *array, arr_ulong_t pos) ARR_NOEXCEPT;
-/* First position whose point matches (x, y, z) by the predicate, or ARR_ULONG_MAX. */
+/** Finds the first point that matches (x, y, z) by the predicate.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param z the z of the point looked for
+ * @param igualdad non-zero when a point of the array matches (x, y, z)
+ * @return its position, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "(fnc_compara->fnc_compara_punto3D) != NULL" for a NULL igualdad (then ARR_ULONG_MAX) */
 ARRAYS_API arr_ulong_t arr_BuscarPunto3D(ARRAY *array, double x, double y, double z,
                                          arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
-/* The same; a second match is reported and the last match is the result. */
+/** Finds the point that matches (x, y, z) by the predicate, which should be the only one.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param z the z of the point looked for
+ * @param igualdad non-zero when a point of the array matches (x, y, z)
+ * @return the position of the last match, or ARR_ULONG_MAX when there is none
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first
+ *   - "(fnc_compara->fnc_compara_punto3D) != NULL" for a NULL igualdad (then ARR_ULONG_MAX) */
 ARRAYS_API arr_ulong_t arr_BuscarUnicoPunto3D(ARRAY *array, double x, double y, double z,
                                               arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
-/* Whether a point matches; *posicion (if not NULL) gets its position or ARR_ULONG_MAX. */
+/** Tells whether a point matches (x, y, z) by the predicate, and where the first one is.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param z the z of the point looked for
+ * @param igualdad non-zero when a point of the array matches (x, y, z)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does
+ * @par Reports, besides the checks of the handle
+ *   - "(fnc_compara->fnc_compara_punto3D) != NULL" for a NULL igualdad (then FALSO) */
 ARRAYS_API arr_bool_t arr_ExistePunto3D(ARRAY *array, double x, double y, double z,
                                   arr_igualdad_Punto3D igualdad, arr_ulong_t *posicion) ARR_NOEXCEPT;
+/** Tells whether a point matches (x, y, z) by the predicate, which should be the only one.
+ * @param array the array
+ * @param x the x of the point looked for
+ * @param y the y of the point looked for
+ * @param z the z of the point looked for
+ * @param igualdad non-zero when a point of the array matches (x, y, z)
+ * @param posicion where the position found (or ARR_ULONG_MAX) is written; may be NULL
+ * @return CIERTO when one does; posicion gets the last match
+ * @par Reports, besides the checks of the handle
+ *   - "!ya_encontrado" for each match after the first
+ *   - "(fnc_compara->fnc_compara_punto3D) != NULL" for a NULL igualdad (then FALSO) */
 ARRAYS_API arr_bool_t arr_ExisteUnicoPunto3D(ARRAY *array, double x, double y, double z,
                                        arr_igualdad_Punto3D igualdad, arr_ulong_t *posicion) ARR_NOEXCEPT;
-/* Sorts in place by the comparator. */
+/** Sorts the points in place by the comparator, with the library's quicksort.
+ * Two points whose stored bytes are identical are taken as equal without calling comparador.
+ * @param array the array
+ * @param comparador the order (comparac_* results); required
+ * @par Reports, besides the checks of the handle
+ *   - "(func_compara_punto3D) != NULL" for a NULL comparador (nothing is sorted)
+ *   - "array->en_bucle == FALSO" or "array->en_bucle_lectura == FALSO" from inside a traversal,
+ *     sort or search of this array (the sort is made all the same) */
 ARRAYS_API void arr_QSortPunto3D(ARRAY *array, arr_orden_Punto3D comparador) ARR_NOEXCEPT;
-/* Same count and every pair of points equal by the predicate. */
+/** Compares two 3D point arrays point by point with the predicate.
+ * Stops at the first pair that does not match.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @param igualdad non-zero when a point of array1 and the point of array2 at the same position
+ *   match
+ * @return CIERTO when they have the same count and every pair of points matches
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle, and
+ *     "array1->mascara_debug == MASCARA_DEBUG" or "array2->mascara_debug == MASCARA_DEBUG" for
+ *     one that is not a live array (FALSO)
+ *   - "array1->tipo_elem == tipo_elem && array2->tipo_elem == tipo_elem" when either is not a
+ *     3D point array (FALSO)
+ *   - "(fnc_compara->fnc_compara_punto3D) != NULL" for a NULL igualdad (FALSO)
+ *   - "en_bucle == FALSO" for each array that a writing traversal or a sort is running over,
+ *     while the loop-guard check is on (arrayprv_set_comprobar_en_bucle); they are compared all
+ *     the same */
 ARRAYS_API arr_bool_t arr_SonIgualesPunto3D(ARRAY *array1, ARRAY *array2,
                                             arr_igualdad_Punto3D igualdad) ARR_NOEXCEPT;
-/* Same count and, point by point, no coordinate differing by more than tolerancia (a box per
- * coordinate, not a distance). */
+/** Compares two 3D point arrays within a tolerance per coordinate.
+ * Point by point, no coordinate may differ by more than tolerancia: a box around each point, not
+ * a distance. A NaN difference counts as equal; two empty arrays are equal whatever the
+ * tolerance.
+ * @param array1 the first array
+ * @param array2 the second array
+ * @param tolerancia the greatest difference allowed in each coordinate
+ * @return CIERTO when both have the same count and every pair of points is within tolerancia;
+ *   FALSO when the call ends early
+ * @par Reports, besides the checks of the handle
+ *   - "(array1) != NULL" or "(array2) != NULL" for a NULL handle, and
+ *     "array1->mascara_debug == MASCARA_DEBUG" or "array2->mascara_debug == MASCARA_DEBUG" for
+ *     one that is not a live array; both arrays are checked
+ *   - "array1->tipo_elem == elem_PUNTO3D_NO_USAR" or "array2->tipo_elem == elem_PUNTO3D_NO_USAR"
+ *     for an array that is not a 3D point array */
 ARRAYS_API arr_bool_t arr_SonIgualesPunto3DConTolerancia(const ARRAY *array1, const ARRAY *array2,
                                                          double tolerancia) ARR_NOEXCEPT;
-/* A new array with the points in reverse order; the argument is unchanged. */
+/** Makes a new 3D point array with the points in reverse order; the argument is unchanged.
+ * @param array the array
+ * @return the new array, to be destroyed with arr_DestruyePunto3D; NULL when the call ends early */
 ARRAYS_API ARRAY *arr_InvertirPunto3D(const ARRAY *array) ARR_NOEXCEPT;
-/* Calls accion(&x, &y, &z, datos) for every point in order; ubicacion and linea name the caller
- * in a report of a traversal already running. */
+/** Calls accion for every point in position order.
+ * The action gets the addresses of the point's x, y and z and may change them in place; calls
+ * that would free the array or change its count are refused while it runs. Only the points there
+ * at the start are visited.
+ * @param array the array
+ * @param accion called with the addresses of each point's x, y and z, and datos
+ * @param datos handed to every call of accion
+ * @param ubicacion the caller's module, named in a report of a walk already running
+ * @param linea the caller's line, likewise
+ * @par Reports, besides the checks of the handle
+ *   - "en_bucle == FALSO" naming ubicacion and linea when called from inside another traversal,
+ *     or a sort or search, of this array, while the loop-guard check is on
+ *     (arrayprv_set_comprobar_en_bucle); the traversal is made all the same
+ *   - "(fnc_accion->fnc_accion_punto3D) != NULL" for a NULL accion (nothing is visited) */
 ARRAYS_API void arr_nousar_RecorrePunto3D(ARRAY *array, arr_accion_Punto3D accion, void *datos,
                                           const char *ubicacion, arr_long_t linea) ARR_NOEXCEPT;
+/** @} */
 
 /* ---- Plane geometry on 2D point arrays ------------------------------------------------------ */
-/* Arcs, ellipses and circles appended as polylines, and measures and edits of a polyline. Every
- * function works on a 2D point array of either kind (plain or with private data; generated points
- * get NULL data). Angles are radians, counter-clockwise from the positive x axis. sentido 0 runs
- * counter-clockwise; the circular arcs and the circle take any other value as clockwise, the
- * ellipses only 1 (pass 0 or 1). */
+/** @defgroup geometria Plane geometry on 2D point arrays
+ * Arcs, ellipses and circles appended as polylines, and measures and edits of a polyline.
+ *
+ * Every function works on a 2D point array of either kind (plain or with private data): each
+ * point goes in, is read and is deleted through the 2D point family's own operations, which make
+ * the checks of the handle; generated points get NULL data, and the private data of a deleted
+ * point is not released. Generated points are appended after those the array holds, and nothing
+ * is compared with them. Angles are radians, counter-clockwise from the positive x axis.
+ * sentido 0 runs counter-clockwise; the circular arcs and the circle take any other value as
+ * clockwise, the ellipses (and the count of arr_AnyadirArcoPunto2D_con_longitud_maxima_lado)
+ * only 1: pass 0 or 1.
+ * @{ */
 
-/* Appends the arc about (xc, yc) from (x1, y1) to (x2, y2), both given points included as they
- * are, with steps no longer than those of a circle of num_puntos points (at least 3) dividing the
- * arc evenly; an arc shorter than 1.1 such steps gets only its two ends. When the ends lie at
- * different distances from the centre the radius changes linearly with the angle. */
+/** Appends the arc about (xc, yc) from (x1, y1) to (x2, y2) with the step of a circle of
+ * num_puntos points, evened out.
+ * The two given points go in as they are, first and last. Between them go the vertices of the
+ * arc divided into the fewest equal steps that are no longer than those of a circle of
+ * num_puntos points; an arc shorter than 1.1 such steps gets only its two ends. Ends at the same
+ * angle from the centre also give only the two ends: an arc is never a whole turn. When the ends
+ * lie at different distances from the centre the radius changes linearly with the angle.
+ * @param array the 2D point array that grows
+ * @param xc x of the centre
+ * @param yc y of the centre
+ * @param x1 x of the start point
+ * @param y1 y of the start point
+ * @param x2 x of the end point
+ * @param y2 y of the end point
+ * @param sentido 0 for counter-clockwise, any other value for clockwise
+ * @param num_puntos the point count of the whole circle whose step the arc takes; at least 3
+ * @par Reports, besides the checks of the handle
+ *   - "num_puntos >= 3" for a smaller count, which is used all the same (0 or 1 gives only the
+ *     two ends) */
 ARRAYS_API void arr_AnyadirArcoPunto2D(ARRAY *array, double xc, double yc, double x1, double y1,
                                        double x2, double y2, arr_short_t sentido,
                                        arr_ulong_t num_puntos) ARR_NOEXCEPT;
-/* The same arc in exactly num_puntos points (at least 2), both ends included. */
+/** Appends the arc of arr_AnyadirArcoPunto2D in num_puntos points, both ends included.
+ * The arc is divided into num_puntos - 1 equal steps. Ends at the same angle from the centre give
+ * only the two ends, and a step too small to move the angle ends the vertices between them early.
+ * @param array the 2D point array that grows
+ * @param xc x of the centre
+ * @param yc y of the centre
+ * @param x1 x of the start point
+ * @param y1 y of the start point
+ * @param x2 x of the end point
+ * @param y2 y of the end point
+ * @param sentido 0 for counter-clockwise, any other value for clockwise
+ * @param num_puntos the point count of the arc, both ends included; at least 2
+ * @par Reports, besides the checks of the handle
+ *   - "num_puntos >= 2" for a smaller count; only the two ends are appended then */
 ARRAYS_API void arr_AnyadirArcoPunto2D_numPuntosArco(ARRAY *array, double xc, double yc,
                                                      double x1, double y1, double x2, double y2,
                                                      arr_short_t sentido, arr_ulong_t num_puntos) ARR_NOEXCEPT;
-/* The same arc with enough points that no side exceeds longitud_maxima_lado (> 0) on the larger
- * of the two radii, and no fewer than a circle of num_puntos points would give it; at least 2. */
+/** Appends the arc of arr_AnyadirArcoPunto2D in as many points as a maximum side length asks.
+ * The count is the larger of sweep * r / longitud_maxima_lado + 1 and sweep * num_puntos / (2 pi),
+ * rounded up and at least 2, where r is the larger of the distances of the two ends from the
+ * centre and sweep the angle the arc sweeps; the arc is then drawn as by
+ * arr_AnyadirArcoPunto2D_numPuntosArco with that count, so that on a circle of radius r no side
+ * is longer than longitud_maxima_lado. The sweep of the count takes only sentido 1 as clockwise:
+ * for any other value but 0 the count is that of the counter-clockwise arc, spread over the
+ * clockwise arc that is drawn.
+ * @param array the 2D point array that grows
+ * @param xc x of the centre
+ * @param yc y of the centre
+ * @param x1 x of the start point
+ * @param y1 y of the start point
+ * @param x2 x of the end point
+ * @param y2 y of the end point
+ * @param sentido 0 for counter-clockwise, any other value for clockwise (see above for the count)
+ * @param num_puntos the point count of a whole circle, whose share of the sweep the count does
+ *   not fall below
+ * @param longitud_maxima_lado the longest side wanted; greater than 0
+ * @par Reports, besides the checks of the handle
+ *   - "longitud_maxima_lado > 0." for a length that is not greater than 0; num_puntos alone then
+ *     sets the count
+ *   - "num_puntos >= 2" when the count comes out below 2, which only values that are not finite
+ *     numbers can cause; only the two ends are appended then */
 ARRAYS_API void arr_AnyadirArcoPunto2D_con_longitud_maxima_lado(
     ARRAY *array, double xc, double yc, double x1, double y1, double x2, double y2, arr_short_t sentido,
     arr_ulong_t num_puntos, double longitud_maxima_lado) ARR_NOEXCEPT;
-/* Appends the arc of the ellipse about (xc, yc) with semi-axes semieje_x, semieje_y, turned
- * counter-clockwise by angulo_giro, from the eccentric angle angulo_inicial to angulo_final (the
- * ellipse's own angles, before the turn), a step of 2 pi / num_puntos apart. Equal angles give one
- * point; angles a turn apart give the whole closed ellipse. A point closer than 1e-5 to the one
- * before it is left out. */
+/** Appends an arc of the ellipse about (xc, yc) with semi-axes semieje_x and semieje_y, turned
+ * counter-clockwise by angulo_giro about its centre.
+ * The arc runs over eccentric angles (the ellipse's own, before the turn). Its interval runs
+ * counter-clockwise from angulo_inicial to angulo_final, a turn added to angulo_final when it is
+ * below angulo_inicial; for sentido 1 it runs from angulo_final to angulo_inicial in the same way,
+ * and the arc built over it is then reversed, so that it runs clockwise from angulo_inicial. The
+ * vertices go a step apart from the start of the interval and its end is the last one; the step
+ * is 2 pi / num_puntos, or the difference between the two angles when that is smaller (so an arc
+ * that wraps round, e.g. from 0.1 to 0 counter-clockwise, takes steps of at most 0.1). Angles
+ * within 1e-5 of each other give one point, at angulo_final; angles a turn apart give the whole
+ * ellipse, its last point on its first. A vertex closer than 1e-5 to the one built before it is
+ * left out. The arc is built in an array of its own and appended in one go, so an array of
+ * another element type refuses it whole.
+ * @param array the 2D point array that grows
+ * @param xc x of the centre
+ * @param yc y of the centre
+ * @param semieje_x the semi-axis along x, before the turn
+ * @param semieje_y the semi-axis along y, before the turn
+ * @param angulo_inicial the eccentric angle where the arc starts
+ * @param angulo_final the eccentric angle where the arc ends
+ * @param angulo_giro the angle the ellipse is turned by, counter-clockwise
+ * @param sentido 1 for clockwise, any other value for counter-clockwise
+ * @param num_puntos the point count of the whole ellipse, which sets the step; 0 makes the step
+ *   the difference between the two angles
+ * @par Reports, besides the checks of the handle
+ *   - "angulo_inicial_filtrado < angulo_final_filtrado" when the interval runs backwards:
+ *     angulo_inicial more than a turn above angulo_final (for sentido 1, angulo_final more than
+ *     a turn above angulo_inicial), or an angle that is not a number; only the interval's end is
+ *     appended then: the point at angulo_final (for sentido 1, at angulo_inicial)
+ *   - "fabs(diferencia - 2 * PI) < 1e-5" when the interval comes out empty although the angles
+ *     are not a turn apart, which only the rounding of very large angles can cause; the whole
+ *     ellipse is appended all the same */
 ARRAYS_API void arr_AnyadirArcoElipsePunto2D(ARRAY *array, double xc, double yc, double semieje_x,
                                              double semieje_y, double angulo_inicial,
                                              double angulo_final, double angulo_giro,
                                              arr_short_t sentido, arr_ulong_t num_puntos) ARR_NOEXCEPT;
-/* The same arc, its step set by longitud_maxima_lado (> 0) on the larger semi-axis and by a
- * circle of num_puntos points, whichever gives more points, and at most 10000 points. */
+/** Appends the elliptical arc of arr_AnyadirArcoElipsePunto2D with a step set by a maximum side
+ * length.
+ * The count is the larger of span * s / longitud_maxima_lado + 1 and span * num_puntos / (2 pi),
+ * rounded up, at least 2 and at most 10000, where s is the larger semi-axis and span the length
+ * of the arc's interval; the step is the span divided by one less than the count, and then, as
+ * there, no larger than the difference between the two angles. So, below the cap of 10000, the
+ * step is at most longitud_maxima_lado / s radians. An interval that comes out empty (angles a
+ * turn apart the wrong way round, e.g. from 2 pi to 0 with sentido 0) gives a step of 0 and a
+ * single point.
+ * @param array the 2D point array that grows
+ * @param xc x of the centre
+ * @param yc y of the centre
+ * @param semieje_x the semi-axis along x, before the turn
+ * @param semieje_y the semi-axis along y, before the turn
+ * @param angulo_inicial the eccentric angle where the arc starts
+ * @param angulo_final the eccentric angle where the arc ends
+ * @param angulo_giro the angle the ellipse is turned by, counter-clockwise
+ * @param sentido 1 for clockwise, any other value for counter-clockwise
+ * @param num_puntos the point count of the whole ellipse, whose share of the span the count does
+ *   not fall below
+ * @param longitud_maxima_lado the longest side wanted; greater than 0
+ * @par Reports, besides the checks of the handle
+ *   - "longitud_maxima_lado > 0." for a length that is not greater than 0; num_puntos alone then
+ *     sets the count
+ *   - "num_puntos_arco > 1" when the count comes out below 2, which only values that are not
+ *     finite numbers can cause; the arc is drawn all the same
+ *   - those of arr_AnyadirArcoElipsePunto2D */
 ARRAYS_API void arr_AnyadirArcoElipsePunto2D_con_longitud_maxima_lado(
     ARRAY *array, double xc, double yc, double semieje_x, double semieje_y, double angulo_inicial,
     double angulo_final, double angulo_giro, arr_short_t sentido, arr_ulong_t num_puntos,
     double longitud_maxima_lado) ARR_NOEXCEPT;
-/* Appends to an empty array the circle about (xc, yc) of radius radio as numPtosCirculo points
- * (at least 3) from (xc + radio, yc), counter-clockwise for sentido 0 and mirrored otherwise;
- * the first point is not repeated at the end. */
+/** Appends the circle about (xc, yc) of radius radio as numPtosCirculo points, to an empty array.
+ * The first point is (xc + radio, yc) and each next one a step of 2 pi / numPtosCirculo further
+ * on: counter-clockwise for sentido 0, mirrored about the horizontal diameter (so clockwise) for
+ * any other value. The first point is not repeated at the end.
+ * @param array the 2D point array, empty
+ * @param xc x of the centre
+ * @param yc y of the centre
+ * @param radio the radius
+ * @param sentido 0 for counter-clockwise, any other value for clockwise
+ * @param numPtosCirculo how many points; at least 3
+ * @par Reports, besides the checks of the handle
+ *   - "arr_NumElemsPunto2D(ARR) == 0" when the array holds points already; the circle is
+ *     appended after them all the same
+ *   - "numPtosCirculo >= 3" for a smaller count, which is used all the same */
 ARRAYS_API void arr_AnyadirCirculoPunto2D(ARRAY *array, double xc, double yc, double radio,
                                           arr_short_t sentido, arr_ulong_t numPtosCirculo) ARR_NOEXCEPT;
 
-/* Signed area of the polygon closed from the last point back to the first: positive when the
- * points run counter-clockwise, negative clockwise, 0.0 for fewer than three points. */
+/** The signed area of the polygon of the array's points, closed from the last point back to the
+ * first.
+ * @param array the 2D point array
+ * @return positive when the points run counter-clockwise, negative when clockwise; 0.0 for fewer
+ *   than three points and for a handle that is not a live 2D point array */
 ARRAYS_API double arr_CalcularAreaPunto2D(const ARRAY *array) ARR_NOEXCEPT;
-/* Length of the open polyline. *indice_lado_mayor gets the index of the first point of its
- * longest side (the first of equal ones) and *longitud_lado_mayor that side's length; with fewer
- * than two points 0 is returned, with ARR_ULONG_MAX and -1.0. Either pointer may be NULL. */
+/** The length of the open polyline of the array's points, and its longest side.
+ * The outputs are written even when there is no side (fewer than two points, or a handle that is
+ * not a live 2D point array).
+ * @param array the 2D point array
+ * @param indice_lado_mayor gets the index of the first point of the longest side (the first of
+ *   equal ones), or ARR_ULONG_MAX when there is no side; may be NULL
+ * @param longitud_lado_mayor gets that side's length, or -1.0 when there is no side; may be NULL
+ * @return the sum of the lengths of the sides; 0.0 when there is none */
 ARRAYS_API double arr_LongitudPunto2D(const ARRAY *array, arr_ulong_t *indice_lado_mayor,
                                       double *longitud_lado_mayor) ARR_NOEXCEPT;
-/* Distance from (x, y) to the open polyline (to its only point when it has one); the nearest
- * point of the polyline goes to the pointers that are not NULL. The array must not be empty. */
+/** The distance from (x, y) to the open polyline of the array's points.
+ * The nearest point of the polyline (on a side, or the only point when there is one) goes to the
+ * pointers that are not NULL; of equally near points, the one met first walking from point 0.
+ * Nothing is written when the array is empty or is not a live 2D point array.
+ * @param array the 2D point array, not empty
+ * @param x x of the point
+ * @param y y of the point
+ * @param x_cercano gets x of the nearest point; may be NULL
+ * @param y_cercano gets y of the nearest point; may be NULL
+ * @return the distance; 0.0 when nothing is written
+ * @par Reports, besides the checks of the handle
+ *   - "numPuntos > 0" for an empty array, then the reports of the read of its point 0:
+ *     "array->num_elems > 0", "real_pos < array->num_elems" and "(pto2D) != NULL" (or
+ *     "(pto2DX) != NULL" with private data) */
 ARRAYS_API double arr_DistanciaDePuntoAPolilineaAbiertaPunto2D(const ARRAY *array, double x,
                                                                double y, double *x_cercano,
                                                                double *y_cercano) ARR_NOEXCEPT;
-/* The same for the polyline closed by a side from its last point back to the first. */
+/** The distance from (x, y) to the polyline of the array's points closed by a side from its last
+ * point back to the first.
+ * As arr_DistanciaDePuntoAPolilineaAbiertaPunto2D, but the walk starts at the last point and its
+ * first side is the closing one, which therefore wins a tie.
+ * @param array the 2D point array, not empty
+ * @param x x of the point
+ * @param y y of the point
+ * @param x_cercano gets x of the nearest point; may be NULL
+ * @param y_cercano gets y of the nearest point; may be NULL
+ * @return the distance; 0.0 when nothing is written
+ * @par Reports, besides the checks of the handle
+ *   - "numPuntos > 0" for an empty array, then the reports of the read of its point 0:
+ *     "array->num_elems > 0", "real_pos < array->num_elems" and "(pto2D) != NULL" (or
+ *     "(pto2DX) != NULL" with private data) */
 ARRAYS_API double arr_DistanciaDePuntoAPolilineaCerradaPunto2D(const ARRAY *array, double x,
                                                                double y, double *x_cercano,
                                                                double *y_cercano) ARR_NOEXCEPT;
-/* The point of the array nearest to (x, y) (the lowest index among equally near ones): its
- * coordinates, index and distance go to the pointers that are not NULL. The array must not be
- * empty. */
+/** Finds the point of the array nearest to (x, y).
+ * Its coordinates, index and distance go to the pointers that are not NULL; of equally near
+ * points, the one of lowest index. Nothing is written when the array is empty or is not a live
+ * 2D point array.
+ * @param array the 2D point array, not empty
+ * @param x x of the reference point
+ * @param y y of the reference point
+ * @param x_cercano gets x of the nearest point; may be NULL
+ * @param y_cercano gets y of the nearest point; may be NULL
+ * @param indice gets its index; may be NULL
+ * @param distancia gets its distance from (x, y); may be NULL
+ * @par Reports, besides the checks of the handle
+ *   - "numPuntos > 0" for an empty array, then the reports of the read of its point 0:
+ *     "array->num_elems > 0", "real_pos < array->num_elems" and "(pto2D) != NULL" (or
+ *     "(pto2DX) != NULL" with private data) */
 ARRAYS_API void arr_IndicePolilineaMasCercanoAPuntoReferenciaPunto2D(
     const ARRAY *array, double x, double y, double *x_cercano, double *y_cercano, arr_ulong_t *indice,
     double *distancia) ARR_NOEXCEPT;
-/* Deletes every point equal to the one before it (each coordinate within 1e-9); the first and
- * last points are not compared with each other. *num_eliminados (if not NULL) gets how many. */
+/** Deletes every point equal to the last point kept before it, each coordinate within 1e-9.
+ * As each point is compared with the last one kept, a run of points each within 1e-9 of the one
+ * before may keep some of them. The first and last points are not compared with each other.
+ * @param array the 2D point array
+ * @param num_eliminados gets how many points were deleted (0 for a handle that is not a live 2D
+ *   point array); may be NULL */
 ARRAYS_API void arr_EliminarPuntosContiguosRepetidosPunto2D(ARRAY *array,
                                                             arr_ulong_t *num_eliminados) ARR_NOEXCEPT;
-/* Deletes, from the start, every point closer than tolerancia to the line through its two
- * neighbours (the neighbours as they are after earlier deletions); point 0 always stays. With
- * cerrada 1 the polyline is taken as closed back to point 0: that needs a plain 2D point array
- * (one with private data is refused) that is not empty. */
+/** Deletes, from the start, every point closer than tolerancia to the line through its two
+ * neighbours.
+ * Each point is tested against the whole line (not only the segment) through the last point kept
+ * before it and the point after it, so after a deletion the next point is tested with the same
+ * point before it. Point 0 always stays, and so does the last point of an open polyline. With
+ * cerrada 1 the polyline is taken as closed: a copy of point 0 is appended through
+ * arr_AppendPunto2D, so that the last point is tested against point 0, and the copy is deleted
+ * at the end. That needs a plain 2D point array that is not empty: one with private data, or
+ * an empty one, is left as it was.
+ * @param array the 2D point array
+ * @param cerrada 1 for a closed polyline, any other value for an open one
+ * @param tolerancia the distance from the line below which a point is deleted
+ * @par Reports, besides the checks of the handle
+ *   - "array->tipo_elem == tipo_elem" for cerrada 1 on an array with private data, which refuses
+ *     the copy of point 0
+ *   - "array->num_elems > 0", "real_pos < array->num_elems" and "(pto2D) != NULL" (or
+ *     "(pto2DX) != NULL" with private data) for cerrada 1 on an empty array, which has no point 0
+ *     to copy */
 ARRAYS_API void arr_eliminar_contenidos_entre_dos_puntos_polilinea_Punto2D(
     ARRAY *array, arr_short_t cerrada, double tolerancia) ARR_NOEXCEPT;
+/** @} */
 
 /* ---- Looking into arrays from outside: the debug dump and shared-memory publishing -------- */
-/* For single-threaded debugging use: the module's buffers and tables are shared by every caller
- * and nothing is locked. A handle that is NULL, destroyed or points into memory that cannot be
- * read never faults here: each function reads the handle through a probe first, then asks
- * arryprv_es_array_correcto. Bit arrays are refused by that query, so the queries give them the
+/** @defgroup depuracion Looking into arrays from outside
+ * The debug dump on the debugger output, and copies of arrays published in named shared memory
+ * for another process to read.
+ *
+ * For single-threaded debugging use: the module's sinks, buffers and tables are shared by every
+ * caller and nothing is locked. These functions make no reports. A handle that is NULL, destroyed
+ * or points into memory that cannot be read never faults here: each function copies the header
+ * through a probe first and asks arryprv_es_array_correcto about the copy, and reads rows and
+ * strings through the probe too. A NULL handle is named on the debugger output by the functions
+ * that write there, and so is an unreadable one (as not valid by
+ * debugarr_serializa_num_elems_array); any other handle that is not a live array is taken as an
+ * array that is not valid. Bit arrays are refused by that query, so the queries give them the
  * answers of an invalid array; their dump is the header line (with the count of bits) and
- * "\r\nTipo de array no implementado.\r\n". The narrow texts are Windows-1252 bytes (the
- * accented letters of "direcci\xF3n no v\xE1lida" are the bytes 0xE1 and 0xF3). */
+ * `"\r\nTipo de array no implementado.\r\n"`. In checking mode (ARRAYPRUEBA) the query looks the
+ * copy up among the live headers, where it is not, so every array is then taken as not valid.
+ *
+ * The module's own messages are Windows-1252 bytes (the accented letters of
+ * `"direcci\xF3n no v\xE1lida"` are the bytes 0xF3 and 0xE1); the line of a narrow string element
+ * carries the string's own bytes.
+ * @{ */
 
-/* Replaces the sinks of the debugger output: `estrecha` receives every narrow text, `ancha` the
- * lines of wide string elements (UTF-16). NULL restores a default: on Windows
+/** Replaces the sinks of the debugger output.
+ * Each sink is, until replaced and again when given NULL, the platform's: on Windows
  * OutputDebugStringA / OutputDebugStringW, elsewhere standard error in UTF-8 (a narrow text that
- * is valid UTF-8 as it is, any other converted from Windows-1252). */
+ * is valid UTF-8 goes as it is, any other is converted from Windows-1252; a wide text is
+ * converted from UTF-16).
+ * @param estrecha called by the module with every narrow text, zero-terminated; NULL restores
+ *   the default
+ * @param ancha called by the module with the line of each wide string element, zero-terminated
+ *   UTF-16; NULL restores the default */
 ARRAYS_API void debugarr_set_salida(void (*estrecha)(const char *texto),
                                     void (*ancha)(const arr_wchar_t *texto)) ARR_NOEXCEPT;
 
-/* Lists `array` on the debugger output: "\r\nArray de N elementos:\r\n", then one text per
- * element: "[i]: value\r\n" with i counted from 1 (BYTE, UChar and Char as 0 to 255, BOOL as
- * CIERTO or FALSO, doubles with six decimals, strings between double quotes through the wide sink
- * for wide strings), 2D points as "[%2d]: \tx=..., \ty=...\r\n" counted from 0, 3D points with
- * z as well and counted from 1; lines longer than 65,535 characters are cut. Typed pointer (and
- * bit) arrays print "\r\nTipo de array no implementado.\r\n" after the header line. A NULL
- * handle prints "\r\nArray es NULL.\r\n", an unreadable one "\r\nArray con direcci\xF3n no
- * v\xE1lida.\r\n"; any other handle that is not a live array prints nothing. */
+/** Lists `array` on the debugger output.
+ * First the header line `"\r\nArray de N elementos:\r\n"`, then one text per element:
+ * `"[i]: value\r\n"` with i counted from 1. BYTE, UChar and Char print as 0 to 255, BOOL as
+ * CIERTO for the value 1 and FALSO for any other, the integers whole, doubles with six decimals,
+ * strings between double quotes (a NULL string as (null)), those of wide string elements through
+ * the wide sink. 2D points of either kind print as `"[%2d]: \tx=%f, \ty=%f\r\n"` counted from 0,
+ * 3D points with `", \tz=%f"` as well and counted from 1. Lines longer than 65,535 characters
+ * (UTF-16 code units for wide strings) are cut.
+ * Typed pointer (and bit) arrays print `"\r\nTipo de array no implementado.\r\n"` after the
+ * header line. A NULL handle prints `"\r\nArray es NULL.\r\n"` and an unreadable one
+ * `"\r\nArray con direcci\xF3n no v\xE1lida.\r\n"`, which also ends the list when the rows or a
+ * string element cannot be read (or the row tables do not add up to the count); any other handle
+ * that is not a live array prints nothing.
+ * @param array the array to list */
 ARRAYS_API void debugarr_outputDebug(const ARRAY *array) ARR_NOEXCEPT;
 
-/* Publishes a copy of `array`'s elements in the named shared-memory block
- * "MemComp_ZarpTools_debugarr_<identificador>" (the identifier printed as a signed 32-bit
- * number), for another process to open: 4 bytes with the number of data bytes, 4 bytes with
- * the element size (both little-endian), then the elements one after another (string elements
- * as the pointers of this process; 2D points with private data as the scratch buffer held). On
- * POSIX the block is the shared-memory object "/MemComp_ZarpTools_debugarr_<identificador>",
- * mode 0600; a name that exists and is not a regular object of this user is refused. The block
- * takes the next of 100 slots in turn; a slot taken again leaves the block it held published
- * until the process ends. Messages as for debugarr_outputDebug; an invalid array, an empty
- * array before any copy was made, a copy above 4 GiB or a block that cannot be made publish
- * nothing, silently. */
+/** Publishes a copy of `array`'s elements in a named shared-memory block.
+ * The block is `"MemComp_ZarpTools_debugarr_<identificador>"`, the identifier printed as a signed
+ * 32-bit number, for another process to open: 4 bytes with the number of data bytes and 4 with
+ * the element size (both little-endian), then the elements one after another. String elements go
+ * as the pointers of this process; for 2D points with private data the data bytes are whatever
+ * the module's scratch buffer held (see debugarr_elems). On POSIX the block is the shared-memory
+ * object `"/MemComp_ZarpTools_debugarr_<identificador>"`, mode 0600; a name that exists and is
+ * not a regular object of this user is refused.
+ * The block takes the next of 100 slots in turn; a slot taken again leaves the block it held
+ * published until the process ends. On POSIX the names of the blocks still published are taken
+ * away at a normal exit.
+ * Messages as for debugarr_outputDebug: `"\r\nArray es NULL.\r\n"` for NULL, and
+ * `"\r\nArray con direcci\xF3n no v\xE1lida.\r\n"` for a handle, rows or elements that cannot be
+ * read. Nothing is published, silently, for any other array that is not valid, for an empty
+ * array while the scratch buffer was never made, when there is no memory for the copy, for a
+ * copy that with the 8-byte header would not fit in 32 bits, or when the block cannot be made;
+ * no slot is taken then.
+ * @param array the array to publish
+ * @param identificador names the block, and debugarr_fin_serializa closes it by it */
 ARRAYS_API void debugarr_ini_serializa(const ARRAY *array, arr_ulong_t identificador) ARR_NOEXCEPT;
 
-/* Closes the block published under `identificador` (the first slot that holds it) and takes its
- * name away unless another published block shares it. 0 when no slot holds the identifier;
- * otherwise a value that carries no further meaning. */
+/** Closes the block published under `identificador`.
+ * The slots are searched from the first, and the first that holds the identifier is taken: its
+ * block is unmapped, and its name is taken away unless another published block shares it. The
+ * slot keeps its identifier, so when the identifier was published more than once a later call
+ * finds the same slot again and closes nothing. Slots not yet taken hold the identifier 0.
+ * @param identificador the identifier given to debugarr_ini_serializa
+ * @return 0 when no slot holds the identifier; otherwise 1, also when the block of that slot was
+ *   closed already */
 ARRAYS_API int debugarr_fin_serializa(arr_ulong_t identificador) ARR_NOEXCEPT;
 
-/* Writes the element count of `array` into the 12-byte block
- * "MemComp_ZarpTools_serializa_num_elems" (count, 0, 0), made at the first use and kept for the
- * life of the process. An array that is not valid writes 0xFFFFFFFF and prints "\r\nArray
- * acadorde no v\xE1lido.\r\n"; NULL prints "\r\nArray acadorde es NULL.\r\n"; a block that
- * cannot be made prints "\r\n(debugarr) Error en memoria compartida
- * 'MemComp_ZarpTools_serializa_num_elems'.\r\n". */
+/** Writes the element count of `array` into the block
+ * `"MemComp_ZarpTools_serializa_num_elems"`.
+ * The block holds 12 bytes: the count and two words of 0, each 32 bits little-endian. It is made
+ * at the first call that writes to it and kept for the life of the process (on POSIX its name is
+ * taken away at a normal exit). An array that is not valid (unreadable, not live, bits) writes
+ * 0xFFFFFFFF and prints `"\r\nArray acadorde no v\xE1lido.\r\n"`; NULL writes nothing and prints
+ * `"\r\nArray acadorde es NULL.\r\n"`; a block that cannot be made prints
+ * `"\r\n(debugarr) Error en memoria compartida 'MemComp_ZarpTools_serializa_num_elems'.\r\n"`.
+ * @param array the array whose count is written */
 ARRAYS_API void debugarr_serializa_num_elems_array(const ARRAY *array) ARR_NOEXCEPT;
 
-/* The elements of `array` one after another in the module's scratch buffer, which stays valid
- * until the buffer has grown twice more; NULL for an array that is not valid, and for an empty
- * array while no buffer was ever made. */
+/** The elements of `array` one after another in the module's scratch buffer.
+ * The buffer only grows: a larger copy moves to a new buffer and keeps the one before alive, so
+ * the address stays valid until the buffer has grown twice more; its contents change with each
+ * copy (here or by debugarr_ini_serializa). For 2D points with private data nothing is copied:
+ * the buffer holds what it held (zeros where it has just grown).
+ * @param array the array
+ * @return the buffer; NULL for an array that is not valid, when its rows cannot be read or there
+ *   is no memory for the copy, and for an empty array while no buffer was ever made (once one
+ *   was, an empty array gets it) */
 ARRAYS_API void *debugarr_elems(const ARRAY *array) ARR_NOEXCEPT;
 
-/* The element count of `array`; 0 when it is not valid. */
+/** The element count of `array`.
+ * @param array the array
+ * @return the count; 0 when it is not valid */
 ARRAYS_API arr_ulong_t debugarr_num_elems(const ARRAY *array) ARR_NOEXCEPT;
 
-/* The element type tag of `array`; 0xFFFFFFFF when it is not valid. */
+/** The element type tag of `array`.
+ * @param array the array
+ * @return the tag (tipo_elem_array); 0xFFFFFFFF when it is not valid */
 ARRAYS_API arr_ulong_t debugarr_tipo_array(const ARRAY *array) ARR_NOEXCEPT;
+/** @} */
 
 #ifdef __cplusplus
 }

@@ -268,10 +268,12 @@ def funciones_escalares(e):
                                      "running"),
                            Parametro("arr_long_t", "linea", "the caller's line, likewise")],
                           "Calls accion for every element in position order.",
-                          informes=['"array->en_bucle == FALSO" naming ubicacion and linea when '
-                                    "a walk of this array is already running"],
+                          informes=['"en_bucle == FALSO" naming ubicacion and linea when '
+                                    "a walk of this array is already running (this one still "
+                                    "runs)"],
                           notas=["The action may change the element in place; calls that would "
-                                 "free the array or change its count are refused while it runs."]))
+                                 "free the array or move, free or shorten its rows are refused "
+                                 "while it runs."]))
     return fs
 
 
@@ -315,9 +317,17 @@ def compartida(clase, nombre):
                    modelo.devuelve, modelo.informes)
 
 
+def grupo(nombre, titulo, descripcion, bloques):
+    """Declarations as one Doxygen group."""
+    return "\n".join([f"/** @defgroup {nombre} {titulo}\n * {descripcion}\n * @{{ */"] + bloques
+                     + ["/** @} */"])
+
+
 def compartidas():
-    return "\n".join(bloque(compartida(clase, nombre))
-                     for clase, nombres in familias.COMPARTIDAS.items() for nombre in nombres)
+    return grupo("compartidas", "Shared functions under the other families' names",
+                 "Destroy, count, copy, concatenate, grow and shrink: one function each.",
+                 [bloque(compartida(clase, nombre))
+                  for clase, nombres in familias.COMPARTIDAS.items() for nombre in nombres])
 
 
 # ---- The second names of the unsigned families ----------------------------------------------
@@ -355,8 +365,10 @@ def segundos_nombres(prefijo, familia):
 
 
 def arulong():
-    return "\n".join(bloque(f) for prefijo, familia in familias.SEGUNDOS_NOMBRES
-                     for f in segundos_nombres(prefijo, familia))
+    return grupo("segundos_nombres", "The arulong and arulong64 names",
+                 "The ULong and ULong64 families under second, lower-case names.",
+                 [bloque(f) for prefijo, familia in familias.SEGUNDOS_NOMBRES
+                  for f in segundos_nombres(prefijo, familia)])
 
 
 # ---- The string families ------------------------------------------------------------------
@@ -450,8 +462,8 @@ def funciones_cadena(S, C, texto):
                  Parametro("arr_long_t", "linea", "the caller's line, likewise")],
                 "Calls accion for every element in position order; the action may replace the "
                 "string (freeing the old one).",
-                informes=['"array->en_bucle == FALSO" naming ubicacion and linea when a walk of '
-                          "this array is already running"]),
+                informes=['"en_bucle == FALSO" naming ubicacion and linea when a walk of '
+                          "this array is already running (this one still runs)"]),
     ]
     for clase, como, con_predicado in CLASES:
         buscada = Parametro(f"const {C} *", "cadena", "the string looked for")

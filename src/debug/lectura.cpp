@@ -51,7 +51,10 @@ ArrayLeido debugarr_lee_array(const ARRAY *array)
     int32_t tipo = -1;
     int32_t num_elems = 0;
     uint64_t size_elem = 0;
-    const bool valido = arryprv_es_array_correcto(&leido.cabecera, &tipo, &num_elems, &size_elem);
+    // The query reads the copy, which cannot fault; in checking mode it must be asked about the
+    // handle itself, which it first looks up among the live headers (a copy is never one of them).
+    const ARRAY *consultado = arrayprv_es_modo_comprobacion() ? array : &leido.cabecera;
+    const bool valido = arryprv_es_array_correcto(consultado, &tipo, &num_elems, &size_elem);
     if (!valido && tipo != elem_BIT_NO_USAR) { // the tag of a header that is not live means nothing
         leido.estado = EstadoArray::no_valido;
         return leido;

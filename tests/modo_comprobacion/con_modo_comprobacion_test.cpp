@@ -30,6 +30,17 @@ TEST_F(ConModoComprobacion, ModeStaysOnWhenTheVariableIsRemovedLater)
     }
 }
 
+// The debug queries read a copy of the header; checking mode still knows the array as live.
+TEST_F(ConModoComprobacion, DebugQueriesSeeALiveArray)
+{
+    ARRAY *array = arr_CreaDouble(3);
+    arr_SetDouble(array, 1, 2.5);
+    EXPECT_EQ(debugarr_num_elems(array), 3u);
+    EXPECT_EQ(debugarr_tipo_array(array), static_cast<ULONG>(elem_DOUBLE_NO_USAR));
+    arr_DestruyeDouble(&array);
+    EXPECT_TRUE(informes().empty());
+}
+
 TEST_F(ConModoComprobacion, AppendOnCorruptedPrefixSumsIsReported)
 {
     ARRAY *array = crea_con_suma_corrupta();

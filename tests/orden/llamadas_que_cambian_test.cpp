@@ -150,6 +150,66 @@ TEST_F(LlamadaQueCambiaSuArray, StringSetsAndDeletesFromASortComparatorAreRefuse
     arr_DestruyeCADENA(&en_uso);
 }
 
+// The action deletes, through the caller's release function, the structure it is handed.
+size_t liberadas = 0;
+void libera_contando(void **elemento)
+{
+    ++liberadas;
+    delete static_cast<int *>(*elemento);
+    *elemento = nullptr;
+}
+void borra_estructura(void *elemento, void *)
+{
+    ++llamadas;
+    const int indice = *static_cast<int *>(elemento);
+    arr_BorrarEstructuraConTipo(en_uso, static_cast<ULONG>(indice), libera_contando);
+}
+
+// Refused inside the walk, the delete frees nothing either: every element still holds its own
+// structure afterwards, which the destroy then releases.
+TEST_F(LlamadaQueCambiaSuArray, DeletingAStructureFromATraversalIsRefusedAndFreesNothing)
+{
+    en_uso = arr_CreaPunteroConTipo(0);
+    for (int i = 0; i < 3; ++i)
+        arr_AppendPunteroConTipo(en_uso, new int(i));
+    llamadas = 0;
+    liberadas = 0;
+    arr_RecorreEstructuraSimpleConTipo(en_uso, borra_estructura, nullptr);
+    EXPECT_EQ(llamadas, 3u);
+    EXPECT_EQ(liberadas, 0u);
+    EXPECT_EQ(informes(), Textos(3, "array->en_bucle == FALSO"));
+    ASSERT_EQ(arrayprv_num_elems(en_uso), 3u);
+    for (ULONG i = 0; i < 3; ++i)
+        EXPECT_EQ(*static_cast<int *>(arr_GetPunteroConTipo(en_uso, i)), static_cast<int>(i));
+    arr_DestruyeEstructurasConTipo(&en_uso, libera_contando);
+    EXPECT_EQ(liberadas, 3u);
+}
+
+// The same for an inner array of an array of arrays: it stays whole in its slot.
+void borra_array_interior(void *, void *)
+{
+    ++llamadas;
+    arr_BorrarEstructuraArrayConTipo(en_uso, 0, libera_contando);
+}
+
+TEST_F(LlamadaQueCambiaSuArray, DeletingAnInnerArrayFromATraversalIsRefusedAndKeepsIt)
+{
+    en_uso = arr_CreaPunteroConTipo(0);
+    ARRAY *interior = arr_CreaPunteroConTipo(0);
+    arr_AppendPunteroConTipo(interior, new int(7));
+    arr_AppendPunteroConTipo(en_uso, interior);
+    llamadas = 0;
+    liberadas = 0;
+    arr_RecorreEstructuraSimpleConTipo(en_uso, borra_array_interior, nullptr);
+    EXPECT_EQ(llamadas, 1u);
+    EXPECT_EQ(liberadas, 0u);
+    EXPECT_EQ(informes(), Textos(1, "array->en_bucle == FALSO"));
+    ASSERT_EQ(arr_GetPunteroConTipo(en_uso, 0), static_cast<void *>(interior));
+    EXPECT_EQ(*static_cast<int *>(arr_GetPunteroConTipo(interior, 0)), 7);
+    arr_DestruyeEstructurasArrayConTipo(&en_uso, libera_contando);
+    EXPECT_EQ(liberadas, 1u);
+}
+
 TEST_F(LlamadaQueCambiaSuArray, AppendsAndDestroysFromAReleaseCallbackAreRefused)
 {
     en_uso = arr_CreaPunteroConTipo(0);

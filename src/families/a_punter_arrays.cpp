@@ -6,6 +6,7 @@
 #include "services/informes.h"
 
 #include <cstring>
+#include <vector>
 
 namespace {
 
@@ -127,13 +128,18 @@ extern "C" ARRAY *arr_CopiaEstructurasArrayConTipo(const ARRAY *array_de_arrays,
 extern "C" void arr_ConcatenaEstructurasArrayConTipo(ARRAY *dest, ARRAY *org_de_arrays,
                                                      arr_copia_EstructuraConTipo copia) noexcept
 {
-    if (!punteros_entrada_concatenacion(dest, org_de_arrays))
+    // Inside a walk of dest the appends could be refused once their copies were made, and the
+    // copies, which only the caller can free, would be lost: that is refused before any copy.
+    if (!punteros_entrada_concatenacion(dest, org_de_arrays) ||
+        !arrayprv_admite_cambio(dest, TEXTOS_DESTINO))
         return;
-    // Bounded by the count on entry, so that appending to the origin itself ends.
-    arrayprv_visita(org_de_arrays, posicion_array{0, 0}, org_de_arrays->num_elems, [&](const char *slot) {
-        if (const ARRAY *interior = interior_en(slot)) {
-            ARRAY *copia_interior = arr_CopiaEstructurasConTipo(interior, copia);
-            arrayprv_append(dest, &copia_interior, elem_PUNTERO_NO_USAR);
-        }
+    // The copies are made during the walk over the origin and appended after it, so that an array
+    // of arrays concatenated to itself grows by a copy of each inner array it held.
+    std::vector<ARRAY *> copias;
+    arrayprv_visita_todos(org_de_arrays, [&](const char *slot) {
+        if (const ARRAY *interior = interior_en(slot))
+            copias.push_back(arr_CopiaEstructurasConTipo(interior, copia));
     });
+    for (ARRAY *copia_interior : copias)
+        arrayprv_append(dest, &copia_interior, elem_PUNTERO_NO_USAR);
 }

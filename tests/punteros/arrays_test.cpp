@@ -56,6 +56,24 @@ TEST_F(ArraysDeArrays, ConcatenateFromANullBAppendsTwoCopies)
     arr_DestruyeEstructurasArrayConTipo(&origen, libera_estructura);
 }
 
+// Rows of two pointers, so that the copies need rows the origin did not have.
+TEST_F(ArraysDeArrays, ConcatenatingToItselfAppendsACopyOfEachInnerArray)
+{
+    ARRAY *array_de_arrays = arr_CreaPunteroConTipoEx(0, 2 * sizeof(void *));
+    for (int i = 0; i < 3; ++i)
+        arr_AppendPunteroConTipo(array_de_arrays, crea_estructuras({i, 10 + i}));
+    arr_ConcatenaEstructurasArrayConTipo(array_de_arrays, array_de_arrays, copia_estructura);
+    EXPECT_TRUE(informes().empty());
+    ASSERT_EQ(arrayprv_num_elems(array_de_arrays), 6u);
+    for (ULONG i = 0; i < 3; ++i) {
+        EXPECT_EQ(valores_de(interior_en(array_de_arrays, 3 + i)),
+                  valores_de(interior_en(array_de_arrays, i)));
+        EXPECT_NE(interior_en(array_de_arrays, 3 + i), interior_en(array_de_arrays, i));
+    }
+    arr_DestruyeEstructurasArrayConTipo(&array_de_arrays, libera_estructura);
+    EXPECT_EQ(llamadas_libera(), 12u);
+}
+
 TEST_F(ArraysDeArrays, CopyOfANullBKeepsTheMiddleNull)
 {
     ARRAY *origen = crea_arrays({crea_estructuras({1, 2}), nullptr, crea_estructuras({3})});

@@ -419,7 +419,8 @@ def funciones_cadena(S, C, texto):
                 [ARRAY, POS, Parametro(f"const {C} *", "cadena", "the string, copied")],
                 "Frees the string at pos and stores a copy of cadena.",
                 informes=['"item" for a NULL cadena, which leaves the element as it was',
-                          '"(ptr_cad) != NULL" for a position without element', '"array->en_bucle == FALSO" from inside a sort of this array '
+                          '"(ptr_cad) != NULL" for a position without element',
+                          '"array->en_bucle == FALSO" from inside a sort of this array '
                           '(nothing is stored)']),
         Funcion("void", f"arr_SetCADENAOriginal{S}", [ARRAY, POS, original],
                 "Frees the string at pos and stores the string *cadena itself.",

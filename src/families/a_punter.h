@@ -44,6 +44,21 @@ template <typename Visita> void punteros_visita_desde(ARRAY *array, ULONG desde,
     array->en_bucle = FALSO;
 }
 
+// Deletes the element at pos once libera_slot(slot) has released what it holds. Inside a walk of
+// the array the delete is refused (arr_BorrarPuntero reports it) and nothing is released, so that
+// neither the walk nor the array is left with a dangling element.
+template <typename Libera>
+void punteros_borra_liberando(ARRAY *array, ULONG pos, Libera &&libera_slot)
+{
+    if (arrayprv_recorridos(array) == 0) {
+        void *slot = arrayprv_get(array, pos, elem_PUNTERO_NO_USAR);
+        if (slot == nullptr)
+            return;
+        libera_slot(static_cast<void **>(slot));
+    }
+    arr_BorrarPuntero(array, pos);
+}
+
 // The destruction of a structure array shared by its exported forms: libera (if given) on every
 // slot with the write guard set, then the rows and the header; *array ends NULL.
 void punteros_destruye_estructuras(ARRAY **array, void (*libera)(void **elemento));

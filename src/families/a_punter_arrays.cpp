@@ -71,17 +71,9 @@ extern "C" void arr_BorrarEstructuraArrayConTipo(ARRAY *array_de_arrays, ULONG p
     if (!punteros_hay_array(array_de_arrays))
         return;
     ARR_EXIGE(libera != nullptr, "(libera) != NULL");
-    // Inside a walk of the outer array the delete is refused (arr_BorrarPuntero reports it), and
-    // the inner array is kept with it.
-    if (arrayprv_recorridos(array_de_arrays) != 0) {
-        arr_BorrarPuntero(array_de_arrays, pos);
-        return;
-    }
-    void *slot = arrayprv_get(array_de_arrays, pos, elem_PUNTERO_NO_USAR);
-    if (slot == nullptr)
-        return;
-    punteros_destruye_estructuras(static_cast<ARRAY **>(slot), libera);
-    arr_BorrarPuntero(array_de_arrays, pos);
+    punteros_borra_liberando(array_de_arrays, pos, [libera](void **slot) {
+        punteros_destruye_estructuras(reinterpret_cast<ARRAY **>(slot), libera);
+    });
 }
 
 extern "C" void arr_ReduceEstructurasArrayConTipo(ARRAY *array_de_arrays, ULONG nuevo_tamanyo,

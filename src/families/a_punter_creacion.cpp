@@ -94,13 +94,8 @@ extern "C" void arr_BorrarEstructuraConTipo(ARRAY *array, ULONG pos,
 {
     if (!punteros_hay_array(array))
         return;
-    // Inside a walk of the array the delete is refused (arr_BorrarPuntero reports it), so the
-    // structure must stay too: freeing it would leave the walk, and the array, a dangling element.
-    if (ARR_EXIGE(libera != nullptr, "(libera) != NULL") && arrayprv_recorridos(array) == 0) {
-        void *slot = arrayprv_get(array, pos, elem_PUNTERO_NO_USAR);
-        if (slot == nullptr)
-            return;
-        libera(static_cast<void **>(slot));
-    }
-    arr_BorrarPuntero(array, pos);
+    if (ARR_EXIGE(libera != nullptr, "(libera) != NULL"))
+        punteros_borra_liberando(array, pos, libera);
+    else
+        arr_BorrarPuntero(array, pos);
 }

@@ -1,6 +1,6 @@
 // The scalar families as the typed tests see them: one traits struct per family, made from the
-// family table of families/tabla_familias.h, naming its value type, its tag and its exports. An optional
-// operation is a member only where the family exports it.
+// family table of families/tabla_familias.h, naming its value type, its tag and its exports. An
+// optional operation is a member only where the family exports it.
 #pragma once
 
 #include "arrays.h"

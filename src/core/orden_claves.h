@@ -2,10 +2,9 @@
 // correct sort can change: equal values there are identical bytes, so the sorted array is the
 // same whatever sort made it. Each value maps to an unsigned key of its width that orders as the
 // value does (the sign bit flipped for signed integers; for doubles the sign-flip transform, all
-// bits inverted when negative), and back. The keys are copied out of the rows into one contiguous
-// block, sorted there by a most-significant-byte radix sort in place (each byte splits a stretch
-// into 256 buckets that the next byte splits again, short buckets by insertion), and written
-// back: O(n) per byte, so no input makes it slower than any other, and after the first bytes
+// bits inverted when negative), and back. The keys are distributed out of the rows into one
+// contiguous copy by their top digit, sorted there by more digits (OrdenRadix), and written back:
+// O(n) per digit, so no input makes it much slower than any other, and after the first digits
 // every bucket works in the nearest caches. The scratch memory is that one copy; one-byte values
 // are counted and need none; when the copy cannot be had, an in-place heapsort over the rows
 // sorts instead.
@@ -107,18 +106,6 @@ public:
         return valor;
     }
     size_t fila() const { return fila_; }
-    // Moves on by n elements without reading them.
-    void salta(size_t n)
-    {
-        while (n > quedan_) {
-            n -= quedan_;
-            ++fila_;
-            actual_ = array_->buffer[fila_];
-            quedan_ = array_->long_filas[fila_];
-        }
-        actual_ += n * array_->size_elem;
-        quedan_ -= n;
-    }
 
 private:
     char *siguiente(size_t bytes)
@@ -155,8 +142,8 @@ void arrayprv_situa_cursores(const ARRAY *array, size_t fila, const std::array<s
 }
 
 
-// Buckets of at most this many keys are sorted by insertion; larger ones by more digits.
-inline constexpr size_t MAXIMO_CUBO_INSERCION = 32;
+// Stretches of at most this many keys are sorted by insertion.
+inline constexpr size_t MAXIMO_INSERCION = 32;
 
 // Sorts a few keys by insertion.
 template <typename Clave> void arrayprv_ordena_insercion(Clave *claves, size_t n)
@@ -172,173 +159,240 @@ template <typename Clave> void arrayprv_ordena_insercion(Clave *claves, size_t n
     }
 }
 
-// The most-significant-digit radix sort of the keys of indices [inicio, fin), which agree on
-// every bit from `bits` up. A stretch stands either in the copy, as keys, or in the rows, as
-// values, at the same indices; each pass distributes it by its next digit from one to the other
-// (out of place), so the two buffers together hold one copy. Into the copy a digit takes up to
-// 11 bits, as many as the stretch has keys to spread; into the rows 8 (one cursor a bucket).
-// The sorted values end in the rows.
+// Watches the keys of doubles go by for what would leave their default order something to
+// decide: a NaN (equal to everything; its key lies beyond those of the infinities) or zeros of
+// both signs (equal, with different bytes).
+class VigiaDobles {
+public:
+    void mira(uint64_t clave)
+    {
+        menor_ = std::min(menor_, clave);
+        mayor_ = std::max(mayor_, clave);
+        cero_positivo_ |= clave == CERO_POSITIVO;
+        cero_negativo_ |= clave == CERO_NEGATIVO;
+    }
+    bool sin_empates() const
+    {
+        return menor_ >= MENOS_INFINITO && mayor_ <= MAS_INFINITO && !(cero_positivo_ && cero_negativo_);
+    }
+
+private:
+    static constexpr uint64_t MAS_INFINITO = 0xFFF0000000000000;   // the key of +inf
+    static constexpr uint64_t MENOS_INFINITO = 0x000FFFFFFFFFFFFF; // the key of -inf
+    static constexpr uint64_t CERO_POSITIVO = 0x8000000000000000;
+    static constexpr uint64_t CERO_NEGATIVO = 0x7FFFFFFFFFFFFFFF;
+    uint64_t menor_ = ~uint64_t{0};
+    uint64_t mayor_ = 0;
+    bool cero_positivo_ = false;
+    bool cero_negativo_ = false;
+};
+
+// The same for integers, whose equal values are identical: nothing to watch.
+struct VigiaEnteros {
+    template <typename Clave> void mira(Clave) {}
+    static bool sin_empates() { return true; }
+};
+
+// The radix sort of an array by its keys, `copia` having room for num_elems keys: a
+// most-significant-digit sort whose first pass distributes the rows' values into the copy as
+// keys, bucket by bucket, and whose later passes sort each bucket within the copy, from the
+// smallest keys to the largest. A stretch of keys is split by the top digit in which its keys
+// differ (as many bits as leave a couple of keys a bucket, at most 11), moved out of place into
+// scratch and back, and each bucket goes on by the bits below; short stretches by insertion.
+// Sorted keys are written back to the rows as soon as they are final, so the copy's slots below
+// the stretch being sorted are free: they are its scratch. A stretch with less scratch below it
+// than its own length goes through its own slots in the rows instead (8-bit digits, a cursor a
+// bucket). Each pass fixes a digit's bits in every bucket, so no input takes more passes than
+// its keys have bits to split. The stack holds a table of cuts (8 KiB) a level of buckets; a
+// level fixes at least 6 bits, so 64-bit keys go at most 11 levels deep.
 template <typename T> class OrdenRadix {
 public:
     using Clave = typename ClaveOrden<T>::Clave;
 
-    OrdenRadix(ARRAY *array, Clave *copia) : array_(array), copia_(copia) {}
+    OrdenRadix(ARRAY *array, Clave *copia) : array_(array), copia_(copia), escritor_(array, 0, 0) {}
 
-    // Sorts [inicio, fin), standing in the copy when `en_copia`; `en_filas` is a cursor at
-    // `inicio` in the rows.
-    void ordena(size_t inicio, size_t fin, unsigned bits, bool en_copia, CursorFilas en_filas)
+    // Sorts the array; false, having changed nothing, when a double's order would leave
+    // something to chance (VigiaDobles).
+    bool ordena()
     {
-        const size_t n = fin - inicio;
-        unsigned ancho = std::min<unsigned>(
-            bits, en_copia ? 8 : std::clamp<unsigned>(std::bit_width(n) - 1, 4, 11));
-        std::array<uint32_t, 2048> cuenta;
-        const auto digito = [&](Clave clave) {
-            return static_cast<size_t>(clave >> (bits - ancho)) & ((size_t{1} << ancho) - 1);
-        };
-        // A digit that every key shares moves nothing: skip it.
-        for (;;) {
-            std::fill_n(cuenta.begin(), size_t{1} << ancho, 0);
-            recorre(inicio, fin, en_copia, en_filas, [&](Clave clave) { ++cuenta[digito(clave)]; });
-            if (cuenta[digito(clave_en(inicio, en_copia, en_filas))] < n)
-                break;
-            bits -= ancho;
-            if (bits == 0) { // all keys equal
-                if (en_copia)
-                    escribe_en_filas(inicio, fin, en_filas);
-                return;
-            }
-            ancho = std::min(ancho, bits);
+        // One read finds the bits in which the keys differ and counts the top bits of the key,
+        // the first pass's digit whenever the keys differ in their top bit.
+        Clave alguna_uno = 0;        // the bits set in some key
+        Clave todas_uno = ~Clave{0}; // the bits set in every key
+        Cortes cortes{};
+        Vigia vigia;
+        constexpr unsigned BITS_CLAVE = 8 * sizeof(Clave);
+        constexpr unsigned DESPLAZA_FIJO = BITS_CLAVE > BITS_DIGITO ? BITS_CLAVE - BITS_DIGITO : 0;
+        arrayprv_por_elementos<T>(array_, [&](const char *elemento) {
+            const Clave clave = clave_de(elemento);
+            alguna_uno |= clave;
+            todas_uno &= clave;
+            ++cortes[(clave >> DESPLAZA_FIJO) + 1];
+            vigia.mira(clave);
+        });
+        if (!vigia.sin_empates())
+            return false;
+        const size_t n = array_->num_elems;
+        const Digito digito(static_cast<Clave>(alguna_uno ^ todas_uno), n);
+        if (digito.bits() == 0)
+            return true; // every value is the same
+        if (digito.bits() != BITS_CLAVE || digito.cubos() != size_t{1} << (BITS_CLAVE - DESPLAZA_FIJO)) {
+            cortes.fill(0);
+            arrayprv_por_elementos<T>(array_, [&](const char *elemento) { ++cortes[digito(clave_de(elemento)) + 1]; });
         }
-        const size_t digitos = size_t{1} << ancho;
-        if (en_copia)
-            reparte_a_filas(inicio, fin, digitos, cuenta, digito, en_filas, bits - ancho);
-        else
-            reparte_a_copia(inicio, fin, digitos, cuenta, digito, en_filas, bits - ancho);
+        acumula(cortes, digito.cubos());
+        std::array<uint32_t, CUBOS> siguiente;
+        std::copy_n(cortes.begin(), digito.cubos(), siguiente.begin());
+        arrayprv_por_elementos<T>(array_, [&](const char *elemento) {
+            const Clave clave = clave_de(elemento);
+            copia_[siguiente[digito(clave)]++] = clave;
+        });
+        sigue(0, cortes, digito);
+        return true;
     }
 
 private:
-    // From the copy into the rows, then each bucket on by the bits below.
-    template <typename Digito>
-    void reparte_a_filas(size_t inicio, size_t fin, size_t digitos, const std::array<uint32_t, 2048> &cuenta,
-                         Digito &digito, CursorFilas en_filas, unsigned bits)
+    static constexpr unsigned BITS_DIGITO = 11;
+    static constexpr size_t CUBOS = size_t{1} << BITS_DIGITO; // buckets of a pass at most
+    static constexpr size_t CUBOS_POR_FILAS = 256;  // buckets of a pass through the rows
+    using Cortes = std::array<uint32_t, CUBOS + 1>; // bucket d is [cortes[d], cortes[d + 1])
+
+    // The digit of a pass: the top bits of those in which the keys differ, as many as leave a
+    // couple of keys a bucket and no more than `maximo`.
+    class Digito {
+    public:
+        Digito(Clave difieren, size_t n, unsigned maximo = BITS_DIGITO)
+            : bits_(static_cast<unsigned>(std::bit_width(difieren))),
+              ancho_(std::min({bits_, static_cast<unsigned>(std::bit_width(n)), maximo})),
+              desplaza_(bits_ - ancho_)
+        {
+        }
+        size_t operator()(Clave clave) const
+        {
+            return static_cast<size_t>(clave >> desplaza_) & (cubos() - 1);
+        }
+        unsigned bits() const { return bits_; }
+        size_t cubos() const { return size_t{1} << ancho_; }
+        // True when the digit takes every differing bit: each bucket then holds equal keys.
+        bool ultimo() const { return desplaza_ == 0; }
+
+    private:
+        unsigned bits_;
+        unsigned ancho_;
+        unsigned desplaza_;
+    };
+
+    static Clave clave_de(const char *elemento)
     {
-        std::array<size_t, 256> inicios;
-        for (size_t d = 0, suma = inicio; d < digitos; suma += cuenta[d++])
-            inicios[d] = suma;
-        std::array<CursorFilas, 256> cursores;
-        arrayprv_situa_cursores(array_, en_filas.fila(), inicios, digitos, cursores);
-        std::array<CursorFilas, 256> escritores = cursores;
-        for (size_t k = inicio; k < fin; ++k)
-            escritores[digito(copia_[k])].escribe(ClaveOrden<T>::valor(copia_[k]));
-        for (size_t d = 0; d < digitos; ++d) {
-            const size_t m = cuenta[d];
-            if (m < 2 || bits == 0)
-                continue; // in place, in order
-            if (m > MAXIMO_CUBO_INSERCION) {
-                ordena(inicios[d], inicios[d] + m, bits, false, cursores[d]);
-            } else {
-                std::array<Clave, MAXIMO_CUBO_INSERCION> pocas;
-                CursorFilas lector = cursores[d];
-                for (size_t k = 0; k < m; ++k)
-                    pocas[k] = ClaveOrden<T>::de(lector.lee<T>());
-                arrayprv_ordena_insercion(pocas.data(), m);
-                CursorFilas escritor = cursores[d];
-                for (size_t k = 0; k < m; ++k)
-                    escritor.escribe(ClaveOrden<T>::valor(pocas[k]));
+        T valor;
+        std::memcpy(&valor, elemento, sizeof valor);
+        return ClaveOrden<T>::de(valor);
+    }
+
+    static void acumula(Cortes &cortes, size_t cubos)
+    {
+        for (size_t d = 1; d <= cubos; ++d)
+            cortes[d] += cortes[d - 1];
+    }
+
+    // Sorts the keys of copy[inicio, inicio + n).
+    void ordena_tramo(size_t inicio, size_t n)
+    {
+        Clave *claves = copia_ + inicio;
+        Clave alguna_uno = 0;
+        Clave todas_uno = ~Clave{0};
+        for (size_t k = 0; k < n; ++k) {
+            alguna_uno |= claves[k];
+            todas_uno &= claves[k];
+        }
+        const auto difieren = static_cast<Clave>(alguna_uno ^ todas_uno);
+        if (difieren == 0)
+            return publica(inicio + n);
+        // Scratch: the copy's slots below the stretch, already written back.
+        const bool con_borrador = inicio >= n;
+        const Digito digito(difieren, n, con_borrador ? BITS_DIGITO : 8);
+        Cortes cortes{};
+        for (size_t k = 0; k < n; ++k)
+            ++cortes[digito(claves[k]) + 1];
+        acumula(cortes, digito.cubos());
+        if (con_borrador)
+            reparte_por_borrador(claves, n, cortes, digito);
+        else
+            reparte_por_filas(inicio, n, cortes, digito);
+        sigue(inicio, cortes, digito);
+    }
+
+    // Sorts each bucket of the stretch at `inicio` in turn, or writes them back when each holds
+    // equal keys. Runs of short buckets are sorted by insertion together: no key moves past
+    // another bucket's, so a run costs at most its length times its longest bucket.
+    void sigue(size_t inicio, const Cortes &cortes, const Digito &digito)
+    {
+        if (digito.ultimo())
+            return publica(inicio + cortes[digito.cubos()]);
+        size_t corrida = inicio; // the start of the run of short buckets not yet sorted
+        for (size_t d = 0; d < digito.cubos(); ++d) {
+            const size_t m = cortes[d + 1] - cortes[d];
+            if (m > MAXIMO_INSERCION) {
+                termina_corrida(corrida, inicio + cortes[d]);
+                ordena_tramo(inicio + cortes[d], m);
+                corrida = inicio + cortes[d + 1];
             }
         }
+        termina_corrida(corrida, inicio + cortes[digito.cubos()]);
     }
 
-    // From the rows into the copy, then each bucket on by the bits below, in order, so that one
-    // cursor follows them in the rows.
-    template <typename Digito>
-    void reparte_a_copia(size_t inicio, size_t fin, size_t digitos, std::array<uint32_t, 2048> &cuenta,
-                         Digito &digito, CursorFilas en_filas, unsigned bits)
+    void termina_corrida(size_t desde, size_t hasta)
     {
-        std::array<uint32_t, 2048> &siguiente = cuenta; // counts become the buckets' ends
-        for (size_t d = 0, suma = inicio; d < digitos; ++d) {
-            suma += cuenta[d];
-            siguiente[d] = static_cast<uint32_t>(suma - cuenta[d]);
-        }
-        recorre(inicio, fin, false, en_filas,
-                [&](Clave clave) { copia_[siguiente[digito(clave)]++] = clave; });
-        // The buckets small enough for insertion are sorted in runs, each run at once: a key of
-        // one bucket is never moved past another bucket's, so a run costs at most its length
-        // times the largest bucket.
-        CursorFilas escritor = en_filas;
-        size_t corrida = inicio;
-        for (size_t d = 0, desde = inicio; d < digitos; desde = siguiente[d++]) {
-            const size_t m = siguiente[d] - desde;
-            if (m > MAXIMO_CUBO_INSERCION && bits > 0) {
-                vuelca(corrida, desde, bits > 0, escritor);
-                ordena(desde, desde + m, bits, true, escritor);
-                escritor.salta(m);
-                corrida = desde + m;
-            }
-        }
-        vuelca(corrida, fin, bits > 0, escritor);
+        arrayprv_ordena_insercion(copia_ + desde, hasta - desde);
+        publica(hasta);
     }
 
-    // Writes the keys of [inicio, fin) of the copy to the rows, sorted by insertion first when
-    // `ordenar`.
-    void vuelca(size_t inicio, size_t fin, bool ordenar, CursorFilas &escritor)
+    // Distributes the n keys at `claves` into the free slots at the start of the copy by the
+    // digit, and copies them back in bucket order.
+    // (Kept out of ordena_tramo, whose frame each level of buckets repeats.)
+    [[gnu::noinline]] void reparte_por_borrador(Clave *claves, size_t n, const Cortes &cortes, const Digito &digito)
     {
-        if (ordenar)
-            arrayprv_ordena_insercion(copia_ + inicio, fin - inicio);
-        for (size_t k = inicio; k < fin; ++k)
+        std::array<uint32_t, CUBOS> siguiente;
+        std::copy_n(cortes.begin(), digito.cubos(), siguiente.begin());
+        for (size_t k = 0; k < n; ++k)
+            copia_[siguiente[digito(claves[k])]++] = claves[k];
+        std::memcpy(claves, copia_, n * sizeof(Clave));
+    }
+
+    // Distributes the n keys of copy[inicio, inicio + n) into the same positions of the rows by
+    // the digit, and reads them back in bucket order. The rows hold the keys' bytes meanwhile.
+    [[gnu::noinline]] void reparte_por_filas(size_t inicio, size_t n, const Cortes &cortes, const Digito &digito)
+    {
+        std::array<size_t, CUBOS_POR_FILAS> inicios;
+        for (size_t d = 0; d < digito.cubos(); ++d)
+            inicios[d] = inicio + cortes[d];
+        std::array<CursorFilas, CUBOS_POR_FILAS> cursores;
+        arrayprv_situa_cursores(array_, escritor_.fila(), inicios, digito.cubos(), cursores);
+        CursorFilas lector = cursores[0]; // at `inicio`, before the writes move it
+        Clave *claves = copia_ + inicio;
+        for (size_t k = 0; k < n; ++k)
+            cursores[digito(claves[k])].escribe(claves[k]);
+        for (size_t k = 0; k < n; ++k)
+            claves[k] = lector.lee<Clave>();
+    }
+
+    // Writes the final keys of copy[escritos, hasta) back to the rows as values.
+    void publica(size_t hasta)
+    {
+        CursorFilas escritor = escritor_; // in a register while the rows are written
+        for (size_t k = escritos_; k < hasta; ++k)
             escritor.escribe(ClaveOrden<T>::valor(copia_[k]));
+        escritor_ = escritor;
+        escritos_ = hasta;
     }
 
-    Clave clave_en(size_t indice, bool en_copia, CursorFilas en_filas) const
-    {
-        return en_copia ? copia_[indice] : ClaveOrden<T>::de(en_filas.lee<T>());
-    }
-
-    // Calls visita(key) for the keys of [inicio, fin) in index order, wherever they stand.
-    template <typename Visita>
-    void recorre(size_t inicio, size_t fin, bool en_copia, CursorFilas lector, Visita &&visita)
-    {
-        if (en_copia) {
-            for (size_t k = inicio; k < fin; ++k)
-                visita(copia_[k]);
-        } else {
-            for (size_t k = inicio; k < fin; ++k)
-                visita(ClaveOrden<T>::de(lector.lee<T>()));
-        }
-    }
-
-    void escribe_en_filas(size_t inicio, size_t fin, CursorFilas escritor)
-    {
-        for (size_t k = inicio; k < fin; ++k)
-            escritor.escribe(ClaveOrden<T>::valor(copia_[k]));
-    }
+    using Vigia = std::conditional_t<std::is_same_v<T, double>, VigiaDobles, VigiaEnteros>;
 
     ARRAY *array_;
     Clave *copia_;
+    CursorFilas escritor_; // at index escritos_ of the rows
+    size_t escritos_ = 0;  // the copy's keys below are final, written back, and free
 };
-
-// The radix sort proper, `claves` having room for num_elems keys: the keys are copied out of the
-// rows and sorted from the most significant byte in which they differ, landing in the rows.
-template <typename T> void arrayprv_ordena_radix(ARRAY *array, typename ClaveOrden<T>::Clave *claves)
-{
-    using Clave = typename ClaveOrden<T>::Clave;
-    Clave alguna_uno = 0;        // the bits set in some key
-    Clave todas_uno = ~Clave{0}; // the bits set in every key
-    size_t k = 0;
-    arrayprv_por_elementos<T>(array, [&](const char *elemento) {
-        T valor;
-        std::memcpy(&valor, elemento, sizeof valor);
-        const Clave clave = ClaveOrden<T>::de(valor);
-        alguna_uno |= clave;
-        todas_uno &= clave;
-        claves[k++] = clave;
-    });
-    const Clave difieren = alguna_uno ^ todas_uno;
-    if (difieren == 0)
-        return; // every value is the same
-    OrdenRadix<T>(array, claves).ordena(0, k, static_cast<unsigned>(std::bit_width(difieren)), true,
-                                        CursorFilas(array, 0, 0));
-}
 
 // A counting sort for 1-byte values, with no copy: equal keys are equal values, so the rows are
 // rewritten from the count of each key.
@@ -428,20 +482,29 @@ public:
     template <typename T> T *como() const { return static_cast<T *>(bloque_); }
 
 private:
-    static constexpr size_t GRANDE = size_t{4} << 20;
+    static constexpr size_t GRANDE = size_t{32} << 20;
     size_t bytes_;
     void *bloque_;
 };
 
-// Sorts `array` (at least two elements, its type's default order total on them) by keys.
-template <typename T> void arrayprv_ordena_por_claves(ARRAY *array)
+// Sorts `array` (at least two elements, its type's default order total on them) by keys, where
+// no correct sort can give another result: always for integers (equal values are identical), for
+// doubles when no NaN and no zeros of both signs are present. False, having changed nothing,
+// otherwise.
+template <typename T> bool arrayprv_ordena_por_claves(ARRAY *array)
 {
+    using Clave = typename ClaveOrden<T>::Clave;
     if constexpr (sizeof(T) == 1) {
         arrayprv_ordena_por_cuentas<T>(array);
-    } else if (CopiaOrden copia(array->num_elems * sizeof(T));
-               copia.como<typename ClaveOrden<T>::Clave>() != nullptr) {
-        arrayprv_ordena_radix<T>(array, copia.como<typename ClaveOrden<T>::Clave>());
+        return true;
     } else {
+        if (CopiaOrden copia(array->num_elems * sizeof(T)); copia.como<Clave>() != nullptr)
+            return OrdenRadix<T>(array, copia.como<Clave>()).ordena();
+        if constexpr (std::is_same_v<T, double>) {
+            if (!arrayprv_dobles_sin_empates_aparentes(array))
+                return false;
+        }
         arrayprv_ordena_en_sitio<T>(array);
+        return true;
     }
 }

@@ -395,32 +395,20 @@ bool arrayprv_ordena_si_monotono(ARRAY *array, Comparacion &comparacion)
     return true;
 }
 
-// True when any correct sort of `array` by a total default order on T gives the same bytes, so
-// that the sort by keys may stand in for the quicksort: the integer types always (equal values
-// are identical), doubles when arrayprv_dobles_sin_empates_aparentes says so. (BOOL's one-sided
-// order is not total; strings, whose equal values may be different pointers, are not numbers.)
-template <typename T> bool arrayprv_orden_sin_empates_aparentes(const ARRAY *array)
-{
-    if constexpr (std::is_same_v<T, double>)
-        return arrayprv_dobles_sin_empates_aparentes(array);
-    else
-        return std::is_integral_v<T>;
-}
-
-// Sorts an array not known to be in order by a default order: by keys where that cannot show,
-// else by the quicksort.
+// Sorts an array not known to be in order by a default order: by keys where that cannot show
+// (arrayprv_ordena_por_claves; BOOL's one-sided order is not total), else by the quicksort.
 template <typename T, typename Comparacion>
 void arrayprv_ordena_desordenado(ARRAY *array, Comparacion &comparacion)
 {
     if constexpr (Comparacion::orden_total) {
-        if (arrayprv_orden_sin_empates_aparentes<T>(array))
-            return arrayprv_ordena_por_claves<T>(array);
+        if (arrayprv_ordena_por_claves<T>(array))
+            return;
     }
     arrayprv_quicksort(array, comparacion);
 }
 
 // Sorts by a type's default order (whose calls no caller can observe). Where the result cannot
-// depend on the sort (arrayprv_orden_sin_empates_aparentes) it sorts by keys; elsewhere it makes
+// depend on the sort (arrayprv_ordena_por_claves) it sorts by keys; elsewhere it makes
 // the same checks, reports, comparisons and swaps as arrayprv_qsort with that order in its table.
 template <typename T, int (*ORDEN)(T, T)> void arrayprv_qsort_valores(ARRAY *array, tipo_elem_array tipo_elem)
 {

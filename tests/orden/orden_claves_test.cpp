@@ -9,7 +9,9 @@
 #include "orden/contraste_orden.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstring>
 #include <functional>
 #include <limits>
 #include <random>
@@ -283,6 +285,42 @@ TEST_F(OrdenClaves, DoublesWithANaNOrBothZerosTakeTheDocumentedQuicksort)
     arrayprv_destruye(&array);
     array = crea_con<double>(elem_DOUBLE_NO_USAR, v);
     EXPECT_TRUE(arrayprv_dobles_sin_empates_aparentes(array));
+    arrayprv_destruye(&array);
+}
+
+// A NaN of either sign (its key beyond an infinity's) or zeros of both signs anywhere, with
+// infinities beside them, turn the sort by keys down before it changes anything; infinities
+// alone do not.
+TEST_F(OrdenClaves, TheSortByKeysRefusesDoublesWithANaNOfEitherSignOrBothZeros)
+{
+    const double inf = std::numeric_limits<double>::infinity();
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    std::vector<double> v = entrada<double>(Forma::azar, Variante::tal_cual, 5000, 5000);
+    v[3] = inf;
+    v[4] = -inf;
+    std::vector<std::vector<double>> ambiguos;
+    for (size_t sitio : {size_t{0}, size_t{2500}, size_t{4999}})
+        for (double raro : {nan, -nan, std::bit_cast<double>(uint64_t{0x7FF0000000000001}),
+                            std::bit_cast<double>(uint64_t{0xFFF0000000000001})}) {
+            ambiguos.push_back(v);
+            ambiguos.back()[sitio] = raro;
+        }
+    ambiguos.push_back(v);
+    ambiguos.back()[0] = -0.0;
+    ambiguos.back()[4999] = 0.0;
+    for (const auto &valores : ambiguos) {
+        ARRAY *array = crea_con<double>(elem_DOUBLE_NO_USAR, valores);
+        EXPECT_FALSE(arrayprv_ordena_por_claves<double>(array));
+        const auto quedan = elementos<double>(array, elem_DOUBLE_NO_USAR);
+        EXPECT_EQ(std::memcmp(quedan.data(), valores.data(), valores.size() * sizeof(double)), 0);
+        arrayprv_destruye(&array);
+        compara_con_la_tabla<elem_DOUBLE_NO_USAR>(valores, arrayprv_orden_double,
+                                                  [](ARRAY *a) { arr_QSortDouble(a, nullptr); }, 1000);
+    }
+    ARRAY *array = crea_con<double>(elem_DOUBLE_NO_USAR, v);
+    EXPECT_TRUE(arrayprv_ordena_por_claves<double>(array));
+    std::sort(v.begin(), v.end());
+    EXPECT_EQ(elementos<double>(array, elem_DOUBLE_NO_USAR), v);
     arrayprv_destruye(&array);
 }
 

@@ -134,8 +134,13 @@ TAMANYOS_VALOR = {"sort_scratch": ("double", 8), "sort_scratch_long": ("Long", 4
                   "sort_scratch_long64": ("Long64", 8), "sort_scratch_byte": ("BYTE", 1)}
 
 
-def main(carpeta):
-    # one output per benchmark process; the first one's context describes the machine
+def fecha(salidas):
+    return salidas[0].get("context", {}).get("date", "?") if salidas else "?"
+
+
+def lee_muestras(carpeta):
+    """Every repetition's value in the folder's outputs: times, bytes per element and scratch bytes
+    per element, each by (operation, size) (and container), and the outputs themselves."""
     salidas = [json.load(open(r)) for r in sorted(glob.glob(os.path.join(carpeta, "*.json")))]
     # (operation, size) -> container -> every repetition's value; the median is reported
     muestras_tiempo = defaultdict(lambda: defaultdict(list))
@@ -157,6 +162,18 @@ def main(carpeta):
                 b["mapped_bytes_per_element"])
         else:
             muestras_tiempo[clave][contenedor].append(b["real_time"])
+    return salidas, muestras_tiempo, muestras_bytes, muestras_auxiliar
+
+
+def main(carpeta, encima=None):
+    salidas, muestras_tiempo, muestras_bytes, muestras_auxiliar = lee_muestras(carpeta)
+    if encima:
+        # A later run of some benchmarks replaces everything the earlier one measured of the same
+        # operation and size, peers included, so that each ratio still comes from one run.
+        nuevas, tiempo, bytes_, auxiliar_ = lee_muestras(encima)
+        for muestras, mas in ((muestras_tiempo, tiempo), (muestras_bytes, bytes_),
+                              (muestras_auxiliar, auxiliar_)):
+            muestras.update(mas)
     mediana = lambda muestras: {c: statistics.median(v) for c, v in muestras.items()}
     tiempos = {k: mediana(v) for k, v in muestras_tiempo.items()}
     bytes_por = {k: mediana(v) for k, v in muestras_bytes.items()}
@@ -172,6 +189,10 @@ def main(carpeta):
           "process that lands in a slow state nor a slow spell of the machine decides its figure. "
           "The C library's allocator runs with fixed thresholds (bench/asignacion.cpp). "
           "Regenerate with `tools/bench`.\n")
+    if encima:
+        print(f"The operations measured again in a run of {fecha(nuevas)} (`BENCH_SOLO` in "
+              f"tools/bench; {len(nuevas)} processes) replace those of the run above: every "
+              "ratio of an operation and size comes from one run.\n")
     imprime_objetivos(tiempos, bytes_por)
     print("## All ratios\n")
     peers = sorted({c for v in tiempos.values() for c in v if c != "arrays"})
@@ -206,6 +227,13 @@ def imprime_gigante(ruta):
 
 
 if __name__ == "__main__":
-    main(sys.argv[1])
-    if len(sys.argv) > 2:
-        imprime_gigante(sys.argv[2])
+    # tabla_bench.py FOLDER [GIGANTE_TXT] [--encima LATER_FOLDER]
+    argumentos = sys.argv[1:]
+    encima = None
+    if "--encima" in argumentos:
+        i = argumentos.index("--encima")
+        encima = argumentos[i + 1]
+        del argumentos[i:i + 2]
+    main(argumentos[0], encima)
+    if len(argumentos) > 1:
+        imprime_gigante(argumentos[1])

@@ -173,7 +173,8 @@ public:
     }
     bool sin_empates() const
     {
-        return menor_ >= MENOS_INFINITO && mayor_ <= MAS_INFINITO && !(cero_positivo_ && cero_negativo_);
+        return menor_ >= MENOS_INFINITO && mayor_ <= MAS_INFINITO &&
+               !(cero_positivo_ && cero_negativo_);
     }
 
 private:
@@ -203,8 +204,10 @@ struct VigiaEnteros {
 // the stretch being sorted are free: they are its scratch. A stretch with less scratch below it
 // than its own length goes through its own slots in the rows instead (8-bit digits, a cursor a
 // bucket). Each pass fixes a digit's bits in every bucket, so no input takes more passes than
-// its keys have bits to split. The stack holds a table of cuts (8 KiB) a level of buckets; a
-// level fixes at least 6 bits, so 64-bit keys go at most 11 levels deep.
+// its keys have bits to split. The stack holds a table of cuts a level of buckets (16 KiB for
+// the first, 8 KiB for each below; a level fixes at least 6 bits, so 64-bit keys go at most 11
+// levels deep, about 100 KiB, and random keys two or three); the distributions, whose tables
+// need not outlive them, run in frames of their own.
 template <typename T> class OrdenRadix {
 public:
     using Clave = typename ClaveOrden<T>::Clave;
@@ -219,10 +222,10 @@ public:
         // the first pass's digit whenever the keys differ in their top bit.
         Clave alguna_uno = 0;        // the bits set in some key
         Clave todas_uno = ~Clave{0}; // the bits set in every key
-        Cortes cortes{};
+        std::array<uint32_t, (size_t{1} << BITS_PRIMER_DIGITO) + 1> cortes{};
         Vigia vigia;
         constexpr unsigned BITS_CLAVE = 8 * sizeof(Clave);
-        constexpr unsigned DESPLAZA_FIJO = BITS_CLAVE > BITS_DIGITO ? BITS_CLAVE - BITS_DIGITO : 0;
+        constexpr unsigned DESPLAZA_FIJO = BITS_CLAVE - BITS_PRIMER_DIGITO;
         arrayprv_por_elementos<T>(array_, [&](const char *elemento) {
             const Clave clave = clave_de(elemento);
             alguna_uno |= clave;
@@ -233,35 +236,35 @@ public:
         if (!vigia.sin_empates())
             return false;
         const size_t n = array_->num_elems;
-        const Digito digito(static_cast<Clave>(alguna_uno ^ todas_uno), n);
+        const Digito digito(static_cast<Clave>(alguna_uno ^ todas_uno), n, BITS_PRIMER_DIGITO);
         if (digito.bits() == 0)
             return true; // every value is the same
-        if (digito.bits() != BITS_CLAVE || digito.cubos() != size_t{1} << (BITS_CLAVE - DESPLAZA_FIJO)) {
+        if (digito.bits() != BITS_CLAVE || digito.cubos() != size_t{1} << BITS_PRIMER_DIGITO) {
             cortes.fill(0);
-            arrayprv_por_elementos<T>(array_, [&](const char *elemento) { ++cortes[digito(clave_de(elemento)) + 1]; });
+            arrayprv_por_elementos<T>(array_, [&](const char *elemento) {
+                ++cortes[digito(clave_de(elemento)) + 1];
+            });
         }
-        acumula(cortes, digito.cubos());
-        std::array<uint32_t, CUBOS> siguiente;
-        std::copy_n(cortes.begin(), digito.cubos(), siguiente.begin());
-        arrayprv_por_elementos<T>(array_, [&](const char *elemento) {
-            const Clave clave = clave_de(elemento);
-            copia_[siguiente[digito(clave)]++] = clave;
-        });
-        sigue(0, cortes, digito);
+        acumula(cortes.data(), digito.cubos());
+        distribuye_filas(cortes.data(), digito);
+        sigue(0, cortes.data(), digito);
         return true;
     }
 
 private:
+    // The bits of a digit at most: in the first pass, over the whole array; in the passes over a
+    // bucket in the copy, whose frames repeat down the levels; through the rows, a cursor a bucket.
+    static constexpr unsigned BITS_PRIMER_DIGITO = 12;
     static constexpr unsigned BITS_DIGITO = 11;
-    static constexpr size_t CUBOS = size_t{1} << BITS_DIGITO; // buckets of a pass at most
-    static constexpr size_t CUBOS_POR_FILAS = 256;  // buckets of a pass through the rows
+    static constexpr unsigned BITS_DIGITO_POR_FILAS = 8;
+    static constexpr size_t CUBOS = size_t{1} << BITS_DIGITO;
     using Cortes = std::array<uint32_t, CUBOS + 1>; // bucket d is [cortes[d], cortes[d + 1])
 
     // The digit of a pass: the top bits of those in which the keys differ, as many as leave a
     // couple of keys a bucket and no more than `maximo`.
     class Digito {
     public:
-        Digito(Clave difieren, size_t n, unsigned maximo = BITS_DIGITO)
+        Digito(Clave difieren, size_t n, unsigned maximo)
             : bits_(static_cast<unsigned>(std::bit_width(difieren))),
               ancho_(std::min({bits_, static_cast<unsigned>(std::bit_width(n)), maximo})),
               desplaza_(bits_ - ancho_)
@@ -289,7 +292,7 @@ private:
         return ClaveOrden<T>::de(valor);
     }
 
-    static void acumula(Cortes &cortes, size_t cubos)
+    static void acumula(uint32_t *cortes, size_t cubos)
     {
         for (size_t d = 1; d <= cubos; ++d)
             cortes[d] += cortes[d - 1];
@@ -310,22 +313,23 @@ private:
             return publica(inicio + n);
         // Scratch: the copy's slots below the stretch, already written back.
         const bool con_borrador = inicio >= n;
-        const Digito digito(difieren, n, con_borrador ? BITS_DIGITO : 8);
-        Cortes cortes{};
+        const Digito digito(difieren, n, con_borrador ? BITS_DIGITO : BITS_DIGITO_POR_FILAS);
+        Cortes cortes;
+        std::fill_n(cortes.begin(), digito.cubos() + 1, 0);
         for (size_t k = 0; k < n; ++k)
             ++cortes[digito(claves[k]) + 1];
-        acumula(cortes, digito.cubos());
+        acumula(cortes.data(), digito.cubos());
         if (con_borrador)
-            reparte_por_borrador(claves, n, cortes, digito);
+            reparte_por_borrador(claves, n, cortes.data(), digito);
         else
-            reparte_por_filas(inicio, n, cortes, digito);
-        sigue(inicio, cortes, digito);
+            reparte_por_filas(inicio, n, cortes.data(), digito);
+        sigue(inicio, cortes.data(), digito);
     }
 
     // Sorts each bucket of the stretch at `inicio` in turn, or writes them back when each holds
     // equal keys. Runs of short buckets are sorted by insertion together: no key moves past
     // another bucket's, so a run costs at most its length times its longest bucket.
-    void sigue(size_t inicio, const Cortes &cortes, const Digito &digito)
+    void sigue(size_t inicio, const uint32_t *cortes, const Digito &digito)
     {
         if (digito.ultimo())
             return publica(inicio + cortes[digito.cubos()]);
@@ -347,13 +351,24 @@ private:
         publica(hasta);
     }
 
+    // Distributes the rows' values into the copy as keys by the first digit.
+    [[gnu::noinline]] void distribuye_filas(const uint32_t *cortes, const Digito &digito)
+    {
+        std::array<uint32_t, size_t{1} << BITS_PRIMER_DIGITO> siguiente;
+        std::copy_n(cortes, digito.cubos(), siguiente.begin());
+        arrayprv_por_elementos<T>(array_, [&](const char *elemento) {
+            const Clave clave = clave_de(elemento);
+            copia_[siguiente[digito(clave)]++] = clave;
+        });
+    }
+
     // Distributes the n keys at `claves` into the free slots at the start of the copy by the
     // digit, and copies them back in bucket order.
-    // (Kept out of ordena_tramo, whose frame each level of buckets repeats.)
-    [[gnu::noinline]] void reparte_por_borrador(Clave *claves, size_t n, const Cortes &cortes, const Digito &digito)
+    [[gnu::noinline]] void reparte_por_borrador(Clave *claves, size_t n, const uint32_t *cortes,
+                                                const Digito &digito)
     {
         std::array<uint32_t, CUBOS> siguiente;
-        std::copy_n(cortes.begin(), digito.cubos(), siguiente.begin());
+        std::copy_n(cortes, digito.cubos(), siguiente.begin());
         for (size_t k = 0; k < n; ++k)
             copia_[siguiente[digito(claves[k])]++] = claves[k];
         std::memcpy(claves, copia_, n * sizeof(Clave));
@@ -361,8 +376,10 @@ private:
 
     // Distributes the n keys of copy[inicio, inicio + n) into the same positions of the rows by
     // the digit, and reads them back in bucket order. The rows hold the keys' bytes meanwhile.
-    [[gnu::noinline]] void reparte_por_filas(size_t inicio, size_t n, const Cortes &cortes, const Digito &digito)
+    [[gnu::noinline]] void reparte_por_filas(size_t inicio, size_t n, const uint32_t *cortes,
+                                             const Digito &digito)
     {
+        constexpr size_t CUBOS_POR_FILAS = size_t{1} << BITS_DIGITO_POR_FILAS;
         std::array<size_t, CUBOS_POR_FILAS> inicios;
         for (size_t d = 0; d < digito.cubos(); ++d)
             inicios[d] = inicio + cortes[d];

@@ -314,8 +314,8 @@ TEST_F(OrdenClaves, TheSortByKeysRefusesDoublesWithANaNOfEitherSignOrBothZeros)
         const auto quedan = elementos<double>(array, elem_DOUBLE_NO_USAR);
         EXPECT_EQ(std::memcmp(quedan.data(), valores.data(), valores.size() * sizeof(double)), 0);
         arrayprv_destruye(&array);
-        compara_con_la_tabla<elem_DOUBLE_NO_USAR>(valores, arrayprv_orden_double,
-                                                  [](ARRAY *a) { arr_QSortDouble(a, nullptr); }, 1000);
+        compara_con_la_tabla<elem_DOUBLE_NO_USAR>(
+            valores, arrayprv_orden_double, [](ARRAY *a) { arr_QSortDouble(a, nullptr); }, 1000);
     }
     ARRAY *array = crea_con<double>(elem_DOUBLE_NO_USAR, v);
     EXPECT_TRUE(arrayprv_ordena_por_claves<double>(array));

@@ -10,7 +10,8 @@
 void *plataforma_reserva_grande(size_t bytes)
 {
     constexpr size_t PAGINA_GRANDE = size_t{2} << 20;
-    void *zona = mmap(nullptr, bytes + PAGINA_GRANDE, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    void *zona = mmap(nullptr, bytes + PAGINA_GRANDE, PROT_READ | PROT_WRITE,
+                      MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (zona == MAP_FAILED)
         return nullptr;
     const auto inicio = reinterpret_cast<uintptr_t>(zona);

@@ -359,39 +359,94 @@ private:
     T pivote_{};
 };
 
+// Calls sigue(value) for the values of `array` in order, row by row, while it returns true; true
+// when it went through them all.
+template <typename T, typename Sigue>
+bool arrayprv_recorre_valores(const ARRAY *array, Sigue &&sigue)
+{
+    for (size_t fila = 0; fila < array->num_filas; ++fila) {
+        const char *elemento = array->buffer[fila];
+        for (size_t k = array->long_filas[fila]; k > 0; --k, elemento += sizeof(T)) {
+            T valor;
+            std::memcpy(&valor, elemento, sizeof valor);
+            if (!sigue(valor))
+                return false;
+        }
+    }
+    return true;
+}
+
+// Reverses the order of the elements of `array` in place, swapping from both ends a stretch of
+// two rows at a time.
+template <typename T> void arrayprv_invierte_valores(ARRAY *array)
+{
+    size_t delante = 0;                  // the row of the front element
+    size_t detras = array->num_filas;    // one past the row of the back element
+    char *inicio = nullptr, *fin = nullptr;     // the front stretch: [inicio, fin)
+    char *principio = nullptr, *final = nullptr; // the back stretch: [principio, final)
+    // Invariant: `quedan` pairs are left to swap, the front one at `inicio`, the back one just
+    // before `final`.
+    for (size_t quedan = array->num_elems / 2; quedan > 0;) {
+        while (inicio == fin) {
+            inicio = array->buffer[delante];
+            fin = inicio + array->long_filas[delante++] * sizeof(T);
+        }
+        while (principio == final) {
+            principio = array->buffer[--detras];
+            final = principio + array->long_filas[detras] * sizeof(T);
+        }
+        const size_t tramo = std::min({static_cast<size_t>(fin - inicio) / sizeof(T),
+                                       static_cast<size_t>(final - principio) / sizeof(T), quedan});
+        for (size_t k = 0; k < tramo; ++k) {
+            final -= sizeof(T);
+            T a;
+            T b;
+            std::memcpy(&a, inicio, sizeof a);
+            std::memcpy(&b, final, sizeof b);
+            std::memcpy(inicio, &b, sizeof b);
+            std::memcpy(final, &a, sizeof a);
+            inicio += sizeof(T);
+        }
+        quedan -= tramo;
+    }
+}
+
 // With a total order on numbers (not BOOL's one-sided one), an array already in order (no NaN)
 // is one the quicksort never changes, and a strictly decreasing one has a single sorted result:
-// both are finished in one walk (the second reversed by swaps). True when the array was one of
+// both are finished in one walk (the second reversed in place). True when the array was one of
 // them; false, having compared a few leading elements at most on random data, otherwise.
-template <typename T, int (*ORDEN)(T, T), typename Comparacion>
-bool arrayprv_ordena_si_monotono(ARRAY *array, Comparacion &comparacion)
+template <typename T, int (*ORDEN)(T, T)> bool arrayprv_ordena_si_monotono(ARRAY *array)
 {
-    bool creciente = true;
-    bool decreciente = true;
-    bool primero = true;
-    T anterior{};
-    arrayprv_visita_todos(array, [&](char *elemento) {
-        T valor;
-        std::memcpy(&valor, elemento, sizeof valor);
-        if (valor != valor) // NaN: equal to everything, so no order follows from neighbours
-            return creciente = decreciente = false;
-        if (!primero) {
-            const int orden = ORDEN(anterior, valor);
-            creciente = creciente && orden != comparac_PRIMERO_MAYOR;
-            decreciente = decreciente && orden == comparac_PRIMERO_MAYOR;
-        }
-        primero = false;
-        anterior = valor;
-        return creciente || decreciente;
-    });
-    if (creciente)
+    // NaN: equal to everything, so no order follows from neighbours.
+    const auto numero = [](T valor) {
+        if constexpr (std::is_floating_point_v<T>)
+            return valor == valor;
+        else
+            return true;
+    };
+    // Walks while every value keeps `relacion` (an order result) with the one before; true when
+    // it went through them all, `pares` being the pairs that kept it.
+    const auto sigue_en = [&](auto relacion, size_t &pares) {
+        bool primero = true;
+        T anterior{};
+        return arrayprv_recorre_valores<T>(array, [&](T valor) {
+            if (!numero(valor) || (!primero && !relacion(ORDEN(anterior, valor))))
+                return false;
+            pares += !primero;
+            primero = false;
+            anterior = valor;
+            return true;
+        });
+    };
+    size_t crecientes = 0;
+    if (sigue_en([](int orden) { return orden != comparac_PRIMERO_MAYOR; }, crecientes))
         return true;
-    if (!decreciente)
+    // A strictly decreasing array breaks the order at its first pair.
+    size_t decrecientes = 0;
+    if (crecientes > 0 ||
+        !sigue_en([](int orden) { return orden == comparac_PRIMERO_MAYOR; }, decrecientes))
         return false;
-    CursorOrden delante(array, 0);
-    CursorOrden detras(array, static_cast<LONG>(array->num_elems - 1));
-    for (; delante.indice() < detras.indice(); delante.avanza(), detras.retrocede())
-        comparacion.intercambia(delante.elemento(), detras.elemento());
+    arrayprv_invierte_valores<T>(array);
     return true;
 }
 
@@ -417,7 +472,7 @@ template <typename T, int (*ORDEN)(T, T)> void arrayprv_qsort_valores(ARRAY *arr
     if (!arrayprv_qsort_empieza(array, hay_array, tipo_elem))
         return;
     ComparacionValores<T, ORDEN> comparacion;
-    if (!comparacion.orden_total || !arrayprv_ordena_si_monotono<T, ORDEN>(array, comparacion))
+    if (!comparacion.orden_total || !arrayprv_ordena_si_monotono<T, ORDEN>(array))
         arrayprv_ordena_desordenado<T>(array, comparacion);
     arrayprv_qsort_termina(array);
 }

@@ -93,6 +93,31 @@ TEST_F(QsortPorDefecto, StrictlyDecreasingDoublesEndReversed)
     compara_con_la_tabla<elem_DOUBLE_NO_USAR>(v, arrayprv_orden_double, ordena_doubles, 900);
 }
 
+// Strictly decreasing arrays are reversed in place: of odd and even length, in full rows and in
+// uneven ones (deletions at random places keep the order and leave rows of every length).
+TEST_F(QsortPorDefecto, StrictlyDecreasingArraysOfEveryLengthAndRowShapeEndAscending)
+{
+    std::mt19937 azar(4);
+    for (size_t n : {size_t{2}, size_t{3}, size_t{256}, size_t{257}, size_t{5000}, size_t{5001}})
+        for (size_t borrados : {size_t{0}, n / 3}) {
+            SCOPED_TRACE(::testing::Message() << "n " << n << ", deleted " << borrados);
+            std::vector<LONG64> v(n);
+            for (size_t k = 0; k < n; ++k)
+                v[k] = static_cast<LONG64>(n - k) * 1000003 - 77;
+            ARRAY *array = crea_con<LONG64>(elem_LONG64_NO_USAR, v);
+            for (size_t k = 0; k < borrados; ++k)
+                arrayprv_borra(array, static_cast<ULONG>(azar() % array->num_elems),
+                               elem_LONG64_NO_USAR);
+            std::vector<LONG64> esperado = elementos<LONG64>(array, elem_LONG64_NO_USAR);
+            std::reverse(esperado.begin(), esperado.end());
+            const Disposicion filas = disposicion(array);
+            arr_QSortLong64(array, nullptr);
+            EXPECT_EQ(elementos<LONG64>(array, elem_LONG64_NO_USAR), esperado);
+            EXPECT_EQ(disposicion(array), filas);
+            arrayprv_destruye(&array);
+        }
+}
+
 TEST_F(QsortPorDefecto, NearlyMonotoneDoublesWithANaNOrARepeatAreSortedInFull)
 {
     std::vector<double> creciente;

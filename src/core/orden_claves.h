@@ -16,7 +16,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -55,32 +54,22 @@ template <> struct ClaveOrden<double> {
     }
 };
 
-// True when the default order of doubles leaves nothing to chance in `array`: no NaN (equal to
-// everything) and no pair of zeros of different sign (equal, with different bytes).
-inline bool arrayprv_dobles_sin_empates_aparentes(const ARRAY *array)
-{
-    bool cero_positivo = false;
-    bool cero_negativo = false;
-    bool sin_nan = true;
-    arrayprv_visita_todos(array, [&](char *elemento) {
-        double valor;
-        std::memcpy(&valor, elemento, sizeof valor);
-        sin_nan = valor == valor;
-        if (valor == 0)
-            (std::signbit(valor) ? cero_negativo : cero_positivo) = true;
-        return sin_nan && !(cero_positivo && cero_negativo);
-    });
-    return sin_nan && !(cero_positivo && cero_negativo);
-}
-
-// Calls visita(element address) for every element in position order, row by row.
-template <typename T, typename Visita> void arrayprv_por_elementos(const ARRAY *array, Visita &&visita)
+// Calls visita(element address) for every element in position order, row by row. A visita that
+// returns bool stops the walk at its first false; the result says whether the walk went through.
+template <typename T, typename Visita> bool arrayprv_por_elementos(const ARRAY *array, Visita &&visita)
 {
     for (size_t fila = 0; fila < array->num_filas; ++fila) {
         char *elemento = array->buffer[fila];
-        for (size_t k = array->long_filas[fila]; k > 0; --k, elemento += sizeof(T))
-            visita(elemento);
+        for (size_t k = array->long_filas[fila]; k > 0; --k, elemento += sizeof(T)) {
+            if constexpr (std::is_same_v<decltype(visita(elemento)), bool>) {
+                if (!visita(elemento))
+                    return false;
+            } else {
+                visita(elemento);
+            }
+        }
     }
+    return true;
 }
 
 // Reads or writes elements one after another in the rows from a given index on, stepping from
@@ -188,6 +177,18 @@ private:
     bool cero_negativo_ = false;
 };
 
+// True when the default order of doubles leaves nothing to chance in `array` (VigiaDobles).
+inline bool arrayprv_dobles_sin_empates_aparentes(const ARRAY *array)
+{
+    VigiaDobles vigia;
+    return arrayprv_por_elementos<double>(array, [&](const char *elemento) {
+        double valor;
+        std::memcpy(&valor, elemento, sizeof valor);
+        vigia.mira(ClaveOrden<double>::de(valor));
+        return vigia.sin_empates();
+    });
+}
+
 // The same for integers, whose equal values are identical: nothing to watch.
 struct VigiaEnteros {
     template <typename Clave> void mira(Clave) {}
@@ -198,7 +199,8 @@ struct VigiaEnteros {
 // most-significant-digit sort whose first pass distributes the rows' values into the copy as
 // keys, bucket by bucket, and whose later passes sort each bucket within the copy, from the
 // smallest keys to the largest. A stretch of keys is split by the top digit in which its keys
-// differ (as many bits as leave a couple of keys a bucket, at most 11), moved out of place into
+// differ (as many bits as leave about a key a bucket, at most 12 in the first pass and 11 in the
+// others), moved out of place into
 // scratch and back, and each bucket goes on by the bits below; short stretches by insertion.
 // Sorted keys are written back to the rows as soon as they are final, so the copy's slots below
 // the stretch being sorted are free: they are its scratch. A stretch with less scratch below it
@@ -260,8 +262,8 @@ private:
     static constexpr size_t CUBOS = size_t{1} << BITS_DIGITO;
     using Cortes = std::array<uint32_t, CUBOS + 1>; // bucket d is [cortes[d], cortes[d + 1])
 
-    // The digit of a pass: the top bits of those in which the keys differ, as many as leave a
-    // couple of keys a bucket and no more than `maximo`.
+    // The digit of a pass: the top bits of those in which the keys differ, as many as leave about
+    // a key a bucket and no more than `maximo`.
     class Digito {
     public:
         Digito(Clave difieren, size_t n, unsigned maximo)

@@ -359,23 +359,6 @@ private:
     T pivote_{};
 };
 
-// Calls sigue(value) for the values of `array` in order, row by row, while it returns true; true
-// when it went through them all.
-template <typename T, typename Sigue>
-bool arrayprv_recorre_valores(const ARRAY *array, Sigue &&sigue)
-{
-    for (size_t fila = 0; fila < array->num_filas; ++fila) {
-        const char *elemento = array->buffer[fila];
-        for (size_t k = array->long_filas[fila]; k > 0; --k, elemento += sizeof(T)) {
-            T valor;
-            std::memcpy(&valor, elemento, sizeof valor);
-            if (!sigue(valor))
-                return false;
-        }
-    }
-    return true;
-}
-
 // Reverses the order of the elements of `array` in place, swapping from both ends a stretch of
 // two rows at a time.
 template <typename T> void arrayprv_invierte_valores(ARRAY *array)
@@ -424,27 +407,28 @@ template <typename T, int (*ORDEN)(T, T)> bool arrayprv_ordena_si_monotono(ARRAY
         else
             return true;
     };
-    // Walks while every value keeps `relacion` (an order result) with the one before; true when
-    // it went through them all, `pares` being the pairs that kept it.
-    const auto sigue_en = [&](auto relacion, size_t &pares) {
-        bool primero = true;
+    // Walks while every value keeps `relacion` (an order result) with the one before; the
+    // number of values it went through.
+    const auto sigue_en = [&](auto relacion) {
+        size_t vistos = 0;
         T anterior{};
-        return arrayprv_recorre_valores<T>(array, [&](T valor) {
-            if (!numero(valor) || (!primero && !relacion(ORDEN(anterior, valor))))
+        arrayprv_por_elementos<T>(array, [&](const char *elemento) {
+            T valor;
+            std::memcpy(&valor, elemento, sizeof valor);
+            if (!numero(valor) || (vistos > 0 && !relacion(ORDEN(anterior, valor))))
                 return false;
-            pares += !primero;
-            primero = false;
+            ++vistos;
             anterior = valor;
             return true;
         });
+        return vistos;
     };
-    size_t crecientes = 0;
-    if (sigue_en([](int orden) { return orden != comparac_PRIMERO_MAYOR; }, crecientes))
+    const size_t crecientes = sigue_en([](int orden) { return orden != comparac_PRIMERO_MAYOR; });
+    if (crecientes == array->num_elems)
         return true;
     // A strictly decreasing array breaks the order at its first pair.
-    size_t decrecientes = 0;
-    if (crecientes > 0 ||
-        !sigue_en([](int orden) { return orden == comparac_PRIMERO_MAYOR; }, decrecientes))
+    if (crecientes > 1 ||
+        sigue_en([](int orden) { return orden == comparac_PRIMERO_MAYOR; }) != array->num_elems)
         return false;
     arrayprv_invierte_valores<T>(array);
     return true;

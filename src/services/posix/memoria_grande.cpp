@@ -17,7 +17,8 @@ constexpr uintptr_t PAGINA = 4096;
 void *mapea_alineado(size_t bytes, size_t alineacion)
 {
     const size_t mapeados = bytes + alineacion;
-    void *zona = mmap(nullptr, mapeados, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    void *zona =
+        mmap(nullptr, mapeados, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (zona == MAP_FAILED)
         return nullptr;
     const auto inicio = reinterpret_cast<uintptr_t>(zona);
